@@ -28,7 +28,7 @@ std::string MissingFonts();
 // Logical pixels, independent of the scale: advance widths are not hinted. UTF-8; bytes that are
 // no UTF-8 count as U+FFFD. Line breaks in the text are "\n" or "\r\n".
 double TextWidth(const Font& font, std::string_view text);  // of the widest line
-double LineHeight(const Font& font);                         // ascent + descent, whole pixels
+double LineHeight(const Font& font);                        // ascent + descent, whole pixels
 double Ascent(const Font& font);
 
 }  // namespace platform

@@ -1,0 +1,30 @@
+// A bare SDL2 program that opens a full-screen window, shows one frame through the window's own
+// framebuffer and tells when it stood: the measure for the game's own start.
+#include <SDL.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+
+int main(int argc, char** argv) {
+  const auto start = std::chrono::steady_clock::now();
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+  if (SDL_Init(SDL_INIT_VIDEO) != 0) return 1;
+  SDL_Window* window = SDL_CreateWindow("bare", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, 800,
+                                        600, SDL_WINDOW_FULLSCREEN_DESKTOP);
+  SDL_Surface* surface = SDL_GetWindowSurface(window);
+  SDL_FillRect(surface, nullptr, 0x00336699);
+  SDL_UpdateWindowSurface(window);
+  const std::chrono::duration<double, std::milli> ms = std::chrono::steady_clock::now() - start;
+  std::printf("first-picture-ms %.1f\n", ms.count());
+  std::fflush(stdout);
+  // Stays up until it is told to go, so that its memory can be read.
+  if (argc > 1 && std::strcmp(argv[1], "--resta") == 0) {
+    SDL_Event event;
+    while (SDL_WaitEvent(&event) && event.type != SDL_QUIT) {
+    }
+  }
+  SDL_DestroyWindow(window);
+  SDL_Quit();
+  return 0;
+}

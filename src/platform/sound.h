@@ -1,0 +1,46 @@
+// Sounds by name: one WAV file each in a folder.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace platform {
+
+class Screen;
+
+struct Wave {
+  int rate = 44100;
+  int channels = 1;
+  std::vector<std::int16_t> samples;  // interleaved
+  std::int64_t Micros() const {
+    return rate > 0 && channels > 0 ? std::int64_t(samples.size()) / channels * 1'000'000 / rate
+                                    : 0;
+  }
+};
+
+// 16-bit PCM. Null for a file that is missing or anything else.
+std::shared_ptr<const Wave> LoadWave(const std::string& path);
+
+class Sounds {
+ public:
+  // `folder` holds <name>.wav for each name.
+  Sounds(Screen& screen, std::string folder) : screen_(screen), folder_(std::move(folder)) {}
+
+  // Starts the sound, cutting off one that plays, and returns at once.
+  void PlayAsync(const std::string& name);
+  // Returns when the sound has ended, also where nothing can be heard: the length is the file's.
+  // A missing file is silence and takes no time.
+  void PlaySync(const std::string& name);
+
+ private:
+  std::shared_ptr<const Wave> Find(const std::string& name);
+
+  Screen& screen_;
+  std::string folder_;
+  std::map<std::string, std::shared_ptr<const Wave>> waves_;
+};
+
+}  // namespace platform

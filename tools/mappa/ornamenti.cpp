@@ -1,0 +1,153 @@
+#include "ornamenti.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace mappa {
+namespace {
+
+constexpr double kTurn = 2 * std::numbers::pi;
+
+Point polar(Point centre, double radius, double turns) {
+  return {centre.x + radius * std::sin(turns * kTurn), centre.y - radius * std::cos(turns * kTurn)};
+}
+
+void fillPolygon(cairo_t* cr, const Line& corners) {
+  cairo_new_path(cr);
+  tracePath(cr, corners);
+  cairo_close_path(cr);
+  cairo_fill(cr);
+}
+
+void strokeCircle(cairo_t* cr, Point centre, double radius, double width) {
+  cairo_set_line_width(cr, width);
+  cairo_new_path(cr);
+  cairo_arc(cr, centre.x, centre.y, radius, 0, kTurn);
+  cairo_stroke(cr);
+}
+
+}  // namespace
+
+void paintPlaque(const Canvas& canvas) {
+  cairo_t* cr = canvas.cr();
+  canvas.setColour(rgb(0x1d2a38), 0.16);
+  for (const double width : {7.0, 4.5, 2.0}) {
+    cairo_set_line_width(cr, width);
+    cairo_stroke_preserve(cr);
+  }
+  canvas.setColour(kNavy, 0.97);
+  cairo_fill_preserve(cr);
+  canvas.setColour(kGold);
+  cairo_set_line_width(cr, 1.4);
+  cairo_stroke_preserve(cr);
+  // A second, finer line inside the rim.
+  cairo_save(cr);
+  cairo_clip_preserve(cr);
+  canvas.setColour(kNavy);
+  cairo_set_line_width(cr, 6.4);
+  cairo_stroke_preserve(cr);
+  canvas.setColour(kGold, 0.55);
+  cairo_set_line_width(cr, 6.4);
+  cairo_stroke_preserve(cr);
+  canvas.setColour(kNavy);
+  cairo_set_line_width(cr, 5.0);
+  cairo_stroke_preserve(cr);
+  canvas.setColour(kGold);
+  cairo_set_line_width(cr, 1.6);
+  cairo_stroke(cr);
+  cairo_restore(cr);
+  cairo_new_path(cr);
+}
+
+void drawRose(const Canvas& canvas, Point centre, double radius, const RoseStyle& style) {
+  cairo_t* cr = canvas.cr();
+  cairo_push_group(cr);
+  canvas.setColour(style.ring);
+  strokeCircle(cr, centre, radius * 0.66, radius * 0.022);
+  strokeCircle(cr, centre, radius * 0.60, radius * 0.012);
+  for (int i = 0; i < 32; ++i) {
+    const Point a = polar(centre, radius * 0.60, i / 32.0),
+                b = polar(centre, radius * 0.66, i / 32.0);
+    cairo_move_to(cr, a.x, a.y);
+    cairo_line_to(cr, b.x, b.y);
+    cairo_set_line_width(cr, radius * 0.012);
+    cairo_stroke(cr);
+  }
+  // The half winds lie under the four great ones; each point is half dark, half light.
+  for (const bool great : {false, true}) {
+    const double tip = radius * (great ? 0.98 : 0.58), waist = radius * (great ? 0.17 : 0.13);
+    for (int i = 0; i < 4; ++i) {
+      const double turn = i / 4.0 + (great ? 0 : 0.125);
+      const Point end = polar(centre, tip, turn);
+      canvas.setColour(style.light);
+      fillPolygon(cr, {centre, polar(centre, waist, turn - 0.125), end});
+      canvas.setColour(style.dark);
+      fillPolygon(cr, {centre, polar(centre, waist, turn + 0.125), end});
+      cairo_set_line_width(cr, radius * 0.012);
+      cairo_new_path(cr);
+      tracePath(cr, {polar(centre, waist, turn - 0.125), end, polar(centre, waist, turn + 0.125)});
+      cairo_stroke(cr);
+    }
+  }
+  canvas.setColour(style.ring);
+  cairo_arc(cr, centre.x, centre.y, radius * 0.055, 0, kTurn);
+  cairo_fill(cr);
+  cairo_pop_group_to_source(cr);
+  cairo_paint_with_alpha(cr, style.alpha);
+}
+
+void drawInset(const Canvas& page, Box box, const World& world, const Projection& projection,
+               const MapStyle& style) {
+  constexpr double kRadius = 5;
+  const Canvas map(static_cast<int>(std::ceil(box.width)), static_cast<int>(std::ceil(box.height)),
+                   page.scale());
+  drawMap(map, world, projection, style);
+  cairo_t* cr = page.cr();
+  roundedBox(cr, box, kRadius);
+  page.setColour(rgb(0x1d2a38), 0.13);
+  for (const double width : {9.0, 7.0}) {
+    cairo_set_line_width(cr, width);
+    cairo_stroke_preserve(cr);
+  }
+  page.setColour(kPaper);
+  cairo_set_line_width(cr, 5);
+  cairo_stroke_preserve(cr);
+  cairo_save(cr);
+  cairo_clip_preserve(cr);
+  page.paint(map, box.x, box.y);
+  cairo_restore(cr);
+  page.setColour(kNavy, 0.8);
+  cairo_set_line_width(cr, 0.9);
+  cairo_stroke(cr);
+  roundedBox(cr, {box.x - 2.5, box.y - 2.5, box.width + 5, box.height + 5}, kRadius + 2.5);
+  page.setColour(rgb(0x7d6a45));
+  cairo_set_line_width(cr, 0.8);
+  cairo_stroke(cr);
+}
+
+void drawDot(const Canvas& page, Point at) {
+  cairo_t* cr = page.cr();
+  cairo_new_path(cr);
+  cairo_arc(cr, at.x, at.y, 2.6, 0, kTurn);
+  page.setColour(rgb(0xc0281c));
+  cairo_fill_preserve(cr);
+  page.setColour(kPaper);
+  cairo_set_line_width(cr, 1.1);
+  cairo_stroke(cr);
+}
+
+void drawLeader(const Canvas& page, Point from, Point to) {
+  cairo_t* cr = page.cr();
+  for (const bool halo : {true, false}) {
+    page.setColour(halo ? kPaper : rgb(0xa3221a), halo ? 0.8 : 1);
+    cairo_set_line_width(cr, halo ? 3.2 : 1.5);
+    const double dashes[] = {3.2, 2.6};
+    if (!halo) cairo_set_dash(cr, dashes, 2, 0);
+    cairo_move_to(cr, from.x, from.y);
+    cairo_line_to(cr, to.x, to.y);
+    cairo_stroke(cr);
+  }
+  cairo_set_dash(cr, nullptr, 0, 0);
+}
+
+}  // namespace mappa

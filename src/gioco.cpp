@@ -1,0 +1,95 @@
+#include "gioco.h"
+
+#include <cstdio>
+
+#include "core/mod_Girovia.h"
+#include "core/stato.h"
+#include "platform/msgbox.h"
+#include "screens/form_messaggi.h"
+#include "screens/form_sovrapposizioni.h"
+#include "screens/segnaposto.h"
+
+namespace girovia {
+
+Gioco::Gioco(platform::Host& host, const Opzioni& opzioni)
+    : screen_(host, opzioni.scala),
+      suoni_(screen_, opzioni.cartella + "/Suoni"),
+      archivio_(opzioni.cartella, "girovia"),
+      immagini_(archivio_),
+      ambiente_{.screen = screen_, .immagini = immagini_, .mani = {}} {
+  platform::SetFontFolder(opzioni.cartella + "/font");
+  AzzeraStato();
+  servizi() = Servizi();
+  servizi().schermi = this;
+  servizi().suoni = this;
+  servizi().attese = this;
+  servizi().caso = opzioni.caso ? opzioni.caso : this;
+}
+
+Gioco::~Gioco() {
+  tabellone_.reset();
+  sfondo_.reset();
+  servizi() = Servizi();
+}
+
+void Gioco::Apri() {
+  ambiente_.mani = {immagini_.Puntatore(101), immagini_.Puntatore(102)};
+  sfondo_ = std::make_unique<FormSfondo>(ambiente_);
+  sfondo_->Load();
+
+  // Until there is a start screen the players are as it would offer them.
+  using namespace mod_Girovia;
+  Nome[1] = "Primo";
+  Nome[2] = "Secondo";
+  Colore[1] = "65280";
+  Colore[2] = "65535";
+  Ritratto[1] = 124 + Estrai(6);
+  Ritratto[2] = 130 + Estrai(6);
+
+  tabellone_ = std::make_unique<FormGirovia>(ambiente_);
+  servizi().tabellone = tabellone_.get();
+  tabellone_->Load();
+}
+
+int Gioco::Gioca() {
+  int codice = 0;
+  try {
+    try {
+      Apri();
+      screen_.Run();
+    } catch (const platform::PictureError& errore) {
+      codice = 1;
+      const std::string numero = std::to_string(errore.number());
+      std::fprintf(stderr, "%s: errore %s: %s (%s)\n", errore.source().c_str(), numero.c_str(),
+                   errore.what(), errore.path().c_str());
+      platform::MsgBox(screen_, "GIROVIA GRANDETAPPA",
+                       std::string(errore.what()) + "\n" + errore.path() + "\nErrore " + numero +
+                           " in " + errore.source(),
+                       platform::MsgButtons::Ok);
+    }
+  } catch (const platform::ProgramEnded&) {
+  }
+  return codice;
+}
+
+void Gioco::MostraModale(Schermata schermata) {
+  switch (schermata) {
+    case Schermata::FormMessaggi:
+      FormMessaggi(ambiente_).ShowModal();
+      break;
+    case Schermata::FormSovrapposizioni: {
+      FormSovrapposizioni form(ambiente_);
+      form.Load();
+      form.Label2.SetCaption(tabellone_->label2());
+      form.Label3.SetCaption(tabellone_->label3());
+      form.ShowModal();
+      break;
+    }
+    default:
+      Segnaposto(ambiente_, schermata).ShowModal();
+  }
+}
+
+void Gioco::MostraNonModale(Schermata) {}
+
+}  // namespace girovia

@@ -1,0 +1,46 @@
+#include "screens/ambiente.h"
+
+#include <cerrno>
+#include <cstdlib>
+
+#include "content/catalogo.h"
+
+namespace girovia {
+namespace {
+
+platform::SizedPicture Carica(platform::PictureStore& archivio, const VoceCatalogo* voce,
+                              const std::string& richiesta) {
+  // An id that the catalogue does not know fails as a file that is not there.
+  if (!voce) return archivio.Load(richiesta, 0, 0);
+  return archivio.Load(PercorsoFile(*voce), voce->larghezza, voce->altezza);
+}
+
+}  // namespace
+
+platform::SizedPicture Immagini::LoadResPicture(int id) {
+  return Carica(archivio_, TrovaVoce(Tipo::Bitmap, id), "bitmap " + std::to_string(id));
+}
+
+platform::SizedPicture cLoadResPicture::LoadResPicture(int id, std::string_view tipo) {
+  const VoceCatalogo* voce = tipo == "CUSTOM" ? TrovaVoce(Tipo::Jpeg, id) : nullptr;
+  return Carica(immagini_.archivio(), voce, std::string(tipo) + " " + std::to_string(id));
+}
+
+platform::SizedPicture Immagini::DiSchermata(const std::string& nome) {
+  return Carica(archivio_, TrovaSchermata(nome), nome);
+}
+
+platform::Pointer Immagini::Puntatore(int id) {
+  const VoceCatalogo* voce = TrovaVoce(Tipo::Cursor, id);
+  const auto immagine = Carica(archivio_, voce, "cursore " + std::to_string(id));
+  return {.kind = platform::Pointer::Kind::Custom,
+          .picture = immagine.picture,
+          .hotX = voce->caldoX,
+          .hotY = voce->caldoY};
+}
+
+platform::Color NumeroColore(const std::string& decimale) {
+  return platform::Color(std::strtoul(decimale.c_str(), nullptr, 10)) & 0xFFFFFF;
+}
+
+}  // namespace girovia

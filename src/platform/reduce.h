@@ -23,14 +23,16 @@ class Reducer {
 
  private:
   struct Span {  // the source pixels of one target pixel
-    int first;
-    int count;
-    int weight;  // index of the first weight
+    int first = 0;
+    int count = 0;
+    int weight = 0;  // index of the first weight
   };
   int sourceWidth_, sourceHeight_, targetWidth_, targetHeight_;
   std::vector<Span> columns_, rows_;
-  std::vector<std::uint16_t> weights_;
-  std::vector<std::uint16_t> line_;  // one row, averaged downwards, four channels a pixel
+  std::vector<std::uint16_t> rowWeights_;
+  std::vector<std::uint32_t> columnWeights_;  // two in a word, the first in the lower half
+  int pairs_ = 1;                             // words of each column
+  std::vector<std::uint16_t> line_;           // a row averaged downwards, four channels a pixel
 };
 
 }  // namespace platform

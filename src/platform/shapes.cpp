@@ -31,8 +31,12 @@ void Surface::Paint(const Outline& outline, Color color) {
   const std::uint32_t pixel = SwapRedBlue(color);
   outline.Scan(clip_, [&](int y, int left, int right, const int* coverage) {
     std::uint32_t* to = row(y) + left;
-    for (int i = 0; i < right - left; ++i)
-      to[i] = Blend(to[i], pixel, static_cast<std::uint32_t>(coverage[i]));
+    for (int i = 0; i < right - left; ++i) {
+      if (coverage[i] == 256)
+        to[i] = pixel;
+      else if (coverage[i] != 0)
+        to[i] = Blend(to[i], pixel, static_cast<std::uint32_t>(coverage[i]));
+    }
   });
 }
 

@@ -14,7 +14,11 @@ constexpr std::string_view kMesi[] = {"gennaio",   "febbraio", "marzo",    "apri
                                       "maggio",    "giugno",   "luglio",   "agosto",
                                       "settembre", "ottobre",  "novembre", "dicembre"};
 
-std::string DueCifre(int n) { return (n < 10 ? "0" : "") + std::to_string(n); }
+std::string DueCifre(int n) {
+  std::string cifre = std::to_string(n);
+  if (n < 10) cifre.insert(cifre.begin(), '0');
+  return cifre;
+}
 
 std::string Data(const std::tm& ora) {
   return std::string(kGiorni[ora.tm_wday]) + ", " + std::to_string(ora.tm_mday) + " " +

@@ -25,6 +25,14 @@ std::string Maiuscole(std::string_view testo) {
   return esito;
 }
 
+// Every line on this screen stands off the edge by a blank.
+std::string Riga(std::string_view testo, std::string_view coda) {
+  std::string riga(1, ' ');
+  riga += testo;
+  riga += coda;
+  return riga;
+}
+
 // How many bytes the first `n` characters take.
 std::size_t Byte(std::string_view testo, std::size_t n) {
   for (std::size_t i = 0; i < testo.size(); ++i) {
@@ -57,9 +65,11 @@ bool ProvaOrdinamento::Solleva(int cella, double x, double y) {
   if (cella == kCellaRiferimento || in_mano()) return false;
   presa_x_ = Arrotonda(x);
   presa_y_ = Arrotonda(y);
+  const int riga = cella / 3;
+  const int colonna = cella % 3;
   // The tile jumps off its cell; the first move of the pointer brings it back under the grip.
-  x_ = Arrotonda(Arrotonda(240 * (cella % 3) + x) - presa_x_ / 2.0);
-  y_ = Arrotonda(Arrotonda(180 * (cella / 3) + y) - presa_y_ / 2.0);
+  x_ = Arrotonda(Arrotonda(240 * colonna + x) - presa_x_ / 2.0);
+  y_ = Arrotonda(Arrotonda(180 * riga + y) - presa_y_ / 2.0);
   griglia_.Prendi(cella);
   return true;
 }
@@ -113,16 +123,14 @@ std::array<std::string, 10> IstruzioniOrdinamento(std::string_view riferimento,
           " da nord a sud, da ovest a est.",
           " Il punto di riferimento",
           " (qui al centro) è la città di",
-          " " + Maiuscole(riferimento) + ".",
+          Riga(Maiuscole(riferimento), "."),
           " Usa il clic del mouse per",
           " spostare le altre città.",
           " Se ci riesci vinci 10 euro.",
-          " " + std::string(messaggio.substr(0, taglio)),
-          " " + std::string(messaggio.substr(taglio)) + "."};
+          Riga(messaggio.substr(0, taglio), ""),
+          Riga(messaggio.substr(taglio), ".")};
 }
 
-std::string ScrittaTassello(std::string_view citta) {
-  return " " + std::string(citta) + std::string(27, ' ');
-}
+std::string ScrittaTassello(std::string_view citta) { return Riga(citta, std::string(27, ' ')); }
 
 }  // namespace girovia

@@ -43,8 +43,9 @@ Recinto ProvaPuzzle::recinto(int larghezza, int altezza) const {
 }
 
 int ProvaPuzzle::CellaSotto() const {
-  const float cx = x_ + kLato / 2;
-  const float cy = y_ + kLato / 2;
+  constexpr float kMezzo = kLato / 2.0F;
+  const float cx = x_ + kMezzo;
+  const float cy = y_ + kMezzo;
   // On a line between two columns the left one wins, on the upper line between two rows the lower.
   const int riga = cy < 120 ? 0 : cy > 240 ? 2 : 1;
   const int colonna = cx > 360 ? 3 : cx > 240 ? 2 : cx > 120 ? 1 : 0;

@@ -30,7 +30,7 @@ class Cronaca {
     }
     mondo.alla[Schermata::FormImprevisti] = [this] {
       const PaginaImprevisto pagina = CaricaImprevisto();
-      mondo.righe.back().append(" (" + pagina.sinistra + " " + pagina.destra + ")");
+      mondo.righe.back().append(" (" + pagina.destra + ")");
     };
     mondo.alla[Schermata::FormCitta] = [] {
       if (CaricaCitta().pacco) ApriSorpresa();
@@ -103,16 +103,16 @@ TEST(Partita, DaLaVallettaABruxelles) {
 Primo 9: Sovrapposizioni=1 ProvaOrdinamento=1 [Strasburgo] | 10 16,50 | 9 21,50
 Secondo apre: Citta | 10 16,50 | 9 16,50
 Secondo 12: ProvaPuzzle=2 | 10 16,50 | 9 16,50
-Primo 12: Imprevisti (E' in corso una eccezionale promozione di ticket aerei. Primo ha ricevuto un biglietto omaggio per andare a Parigi.) | 28 27,50 | 9 16,50
-Secondo 12: Imprevisti (E' arrivata una tassa straordinaria sui conti in banca. Ogni giocatore paga un importo pari al 10% del suo conto.) | 28 24,75 | 21 24,75
-Primo 12: Imprevisti (Primo, oggi è il tuo giorno fortunato. Girovia ti regala 5 € e tu tiri ancora il dado!) | 40 40,75 | 21 24,75
+Primo 12: Imprevisti (Primo ha ricevuto un biglietto omaggio per andare a Parigi.) | 28 27,50 | 9 16,50
+Secondo 12: Imprevisti (Ogni giocatore paga un importo pari al 10% del suo conto.) | 28 24,75 | 21 24,75
+Primo 12: Imprevisti (Girovia ti regala 5 € e tu tiri ancora il dado!) | 40 40,75 | 21 24,75
 Primo 11: RotazioneCarta Carte4Items=0 | 51 51,75 | 21 24,75
 Secondo 12: ProvaCitta=1 Bonus | 51 51,75 | 33 39,25
 Primo 12: ProvaCapitali=1 Bonus | 63 66,25 | 33 39,25
 Secondo 12: RotazioneCarta Carte2Items=2 | 63 66,25 | 33 39,25
 Primo 12: RotazioneCarta Carte4Items=1 | 75 80,75 | 33 39,25
 Secondo 11: ProvaOrdinamento=1 | 75 80,75 | 44 52,75
-Primo 12: Imprevisti (Giornata di festa per i lettori dei giornali quotidiani. Girovia News regala 10 euro a Primo.) | 87 101,75 | 44 52,75
+Primo 12: Imprevisti (Girovia News regala 10 euro a Primo.) | 87 101,75 | 44 52,75
 Secondo 12: RotazioneCarta Carte2Items=0 | 87 101,75 | 56 64,75
 Primo 12: ProvaPuzzle=2 | 87 101,75 | 56 64,75
 Secondo 12: RotazioneCarta Carte2Items=1 [Tirana] | 87 101,75 | 68 79,25

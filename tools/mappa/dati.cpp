@@ -73,7 +73,7 @@ class Reader {
   }
 
   LonLat checked(LonLat place) const {
-    if (!(place.lon >= -180.001 && place.lon <= 180.001 && place.lat >= -90 && place.lat <= 90)) {
+    if (!(place.lon >= -180 && place.lon <= 210 && place.lat >= -90 && place.lat <= 90)) {
       fail("the place lies outside the globe");
     }
     return place;

@@ -2,6 +2,8 @@
 
 #include <cmath>
 #include <numbers>
+#include <tuple>
+#include <utility>
 
 namespace mappa {
 namespace {
@@ -63,14 +65,14 @@ void drawRose(const Canvas& canvas, Point centre, double radius, const RoseStyle
   cairo_t* cr = canvas.cr();
   cairo_push_group(cr);
   canvas.setColour(style.ring);
-  strokeCircle(cr, centre, radius * 0.66, radius * 0.022);
-  strokeCircle(cr, centre, radius * 0.60, radius * 0.012);
+  strokeCircle(cr, centre, radius * 0.66, 2 * radius * style.fineLine);
+  strokeCircle(cr, centre, radius * 0.60, radius * style.fineLine);
   for (int i = 0; i < 32; ++i) {
     const Point a = polar(centre, radius * 0.60, i / 32.0),
                 b = polar(centre, radius * 0.66, i / 32.0);
     cairo_move_to(cr, a.x, a.y);
     cairo_line_to(cr, b.x, b.y);
-    cairo_set_line_width(cr, radius * 0.012);
+    cairo_set_line_width(cr, radius * style.fineLine);
     cairo_stroke(cr);
   }
   // The half winds lie under the four great ones; each point is half dark, half light.
@@ -83,7 +85,7 @@ void drawRose(const Canvas& canvas, Point centre, double radius, const RoseStyle
       fillPolygon(cr, {centre, polar(centre, waist, turn - 0.125), end});
       canvas.setColour(style.dark);
       fillPolygon(cr, {centre, polar(centre, waist, turn + 0.125), end});
-      cairo_set_line_width(cr, radius * 0.012);
+      cairo_set_line_width(cr, radius * style.fineLine);
       cairo_new_path(cr);
       tracePath(cr, {polar(centre, waist, turn - 0.125), end, polar(centre, waist, turn + 0.125)});
       cairo_stroke(cr);
@@ -94,6 +96,80 @@ void drawRose(const Canvas& canvas, Point centre, double radius, const RoseStyle
   cairo_fill(cr);
   cairo_pop_group_to_source(cr);
   cairo_paint_with_alpha(cr, style.alpha);
+}
+
+void drawShip(const Canvas& canvas, Point keel, double size, Colour ink, Colour sail) {
+  cairo_t* cr = canvas.cr();
+  cairo_save(cr);
+  cairo_translate(cr, keel.x, keel.y);
+  cairo_scale(cr, size, size);
+  cairo_set_line_width(cr, 0.035);
+  const auto fill = [&](Colour colour) {
+    canvas.setColour(colour);
+    cairo_fill_preserve(cr);
+    canvas.setColour(ink);
+    cairo_stroke(cr);
+  };
+  for (const auto& [x, height] : {std::pair{-0.28, -1.0}, {0.12, -1.15}}) {
+    cairo_move_to(cr, x, -0.2);
+    cairo_line_to(cr, x, height);
+    cairo_stroke(cr);
+    // Each mast carries two bellied sails.
+    for (const auto& [top, foot, half] :
+         {std::tuple{height + 0.08, height + 0.34, 0.13}, {height + 0.38, height + 0.78, 0.2}}) {
+      cairo_move_to(cr, x - half * 0.8, top);
+      cairo_line_to(cr, x + half * 0.8, top);
+      cairo_curve_to(cr, x + half * 1.7, (top + foot) / 2, x + half * 1.5, foot - 0.04, x + half,
+                     foot);
+      cairo_line_to(cr, x - half, foot);
+      cairo_curve_to(cr, x - half * 0.4, foot - 0.04, x - half * 0.2, (top + foot) / 2,
+                     x - half * 0.8, top);
+      fill(sail);
+    }
+    cairo_move_to(cr, x, height);
+    cairo_line_to(cr, x + 0.2, height + 0.04);
+    cairo_line_to(cr, x, height + 0.09);
+    fill(ink);
+  }
+  cairo_move_to(cr, 0.3, -0.2);
+  cairo_line_to(cr, 0.78, -0.62);
+  cairo_stroke(cr);
+  cairo_move_to(cr, 0.2, -0.85);
+  cairo_line_to(cr, 0.72, -0.55);
+  cairo_line_to(cr, 0.36, -0.3);
+  cairo_close_path(cr);
+  fill(sail);
+  cairo_move_to(cr, -0.66, -0.42);
+  cairo_line_to(cr, -0.42, -0.4);
+  cairo_curve_to(cr, -0.36, -0.2, -0.2, -0.2, 0.2, -0.2);
+  cairo_curve_to(cr, 0.4, -0.2, 0.5, -0.28, 0.6, -0.3);
+  cairo_curve_to(cr, 0.55, -0.1, 0.45, 0.02, 0.32, 0.04);
+  cairo_line_to(cr, -0.44, 0.04);
+  cairo_curve_to(cr, -0.58, -0.06, -0.62, -0.22, -0.66, -0.42);
+  fill(ink);
+  canvas.setColour(sail);
+  cairo_set_line_width(cr, 0.045);
+  for (int row = 0; row < 2; ++row) {
+    const double y = 0.08 + 0.12 * row;
+    cairo_move_to(cr, -0.8 + 0.25 * row, y);
+    for (int i = 0; i < 6 - 2 * row; ++i) {
+      cairo_rel_curve_to(cr, 0.06, 0.07, 0.2, 0.07, 0.26, 0);
+    }
+    cairo_stroke(cr);
+  }
+  cairo_restore(cr);
+}
+
+void drawMargin(const Canvas& page) {
+  cairo_t* cr = page.cr();
+  const double w = page.width(), h = page.height();
+  for (const auto& [inset, width, colour] :
+       {std::tuple{0.0, 5.0, kPaper}, {3.0, 0.9, kNavy}, {5.0, 0.5, rgb(0x7d6a45)}}) {
+    page.setColour(colour);
+    cairo_set_line_width(cr, width);
+    cairo_rectangle(cr, inset, inset, w - 2 * inset, h - 2 * inset);
+    cairo_stroke(cr);
+  }
 }
 
 void drawInset(const Canvas& page, Box box, const World& world, const Projection& projection,
@@ -128,11 +204,11 @@ void drawInset(const Canvas& page, Box box, const World& world, const Projection
 void drawDot(const Canvas& page, Point at) {
   cairo_t* cr = page.cr();
   cairo_new_path(cr);
-  cairo_arc(cr, at.x, at.y, 2.6, 0, kTurn);
+  cairo_arc(cr, at.x, at.y, 2.1, 0, kTurn);
   page.setColour(rgb(0xc0281c));
   cairo_fill_preserve(cr);
   page.setColour(kPaper);
-  cairo_set_line_width(cr, 1.1);
+  cairo_set_line_width(cr, 0.9);
   cairo_stroke(cr);
 }
 
@@ -140,7 +216,7 @@ void drawLeader(const Canvas& page, Point from, Point to) {
   cairo_t* cr = page.cr();
   for (const bool halo : {true, false}) {
     page.setColour(halo ? kPaper : rgb(0xa3221a), halo ? 0.8 : 1);
-    cairo_set_line_width(cr, halo ? 3.2 : 1.5);
+    cairo_set_line_width(cr, halo ? 2.8 : 1.3);
     const double dashes[] = {3.2, 2.6};
     if (!halo) cairo_set_dash(cr, dashes, 2, 0);
     cairo_move_to(cr, from.x, from.y);

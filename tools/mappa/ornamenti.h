@@ -18,10 +18,17 @@ struct RoseStyle {
   Colour light = kPaper;
   Colour ring = kGold;
   double alpha = 1;
+  double fineLine = 0.012;  // of the radius
 };
 
 // Eight points and a ring; the needle to the north carries a lily.
 void drawRose(const Canvas& canvas, Point centre, double radius, const RoseStyle& style);
+
+// A small sailing ship on two waves, about 1.6 times as wide as `size`.
+void drawShip(const Canvas& canvas, Point keel, double size, Colour ink, Colour sail);
+
+// The margin of the page with a fine line.
+void drawMargin(const Canvas& page);
 
 // A place that lies outside the page, shown in a frame of its own.
 void drawInset(const Canvas& page, Box box, const World& world, const Projection& projection,

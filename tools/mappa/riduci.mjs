@@ -23,7 +23,9 @@ const arcs = world.arcs.map((arc) => {
   return arc.map(([dx, dy]) => {
     x += dx;
     y += dy;
-    return [x * scale[0] + translate[0], y * scale[1] + translate[1]];
+    const lon = x * scale[0] + translate[0];
+    // The far east of Russia lies beyond the line where longitudes jump.
+    return [lon < -150 ? lon + 360 : lon, y * scale[1] + translate[1]];
   });
 });
 
@@ -55,7 +57,8 @@ for (const g of world.objects.countries.geometries) {
   for (const rings of polygons) {
     const outer = ringPoints(rings[0]);
     const b = box(outer);
-    if (!meets(b, KEEP) || area(outer) < SMALLEST_RING) continue;
+    const wound = b[2] - b[0] > 190; // torn apart by that jump
+    if (wound || !meets(b, KEEP) || area(outer) < SMALLEST_RING) continue;
     let name = MERGED[g.properties.name] ?? g.properties.name;
     if (name === 'Russia' && isCrimea(b)) name = 'Ukraine';
     if (!countries.has(name)) countries.set(name, []);

@@ -178,7 +178,7 @@ Field heights(const World& world, const Projection& projection, const Canvas& ca
       const double ridge = ridges.smooth(x - 0.5, y - 0.5);
       const double plateau = plateaus.smooth(x - 0.5, y - 0.5);
       const double wave = noise(x / 11, y / 11) * 0.6 + noise(x / 4.3, y / 4.3) * 0.4;
-      double h = 90 + 60 * wave + plateau * (1 + 0.22 * wave);
+      double h = 90 + 60 * wave + plateau * (1 + 0.1 * wave);
       if (ridge > 20) {
         const double bend = noise(x / 17 + 40, y / 17) * 3.0;
         h += ridge * (0.3 + 1.05 * ridgedNoise((x + bend) / 10.5, (y - bend) / 10.5, 5));

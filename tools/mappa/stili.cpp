@@ -1,0 +1,47 @@
+#include "stili.h"
+
+namespace mappa {
+
+MapStyle atlasStyle() {
+  MapStyle style;
+  style.sea = {{rgb(0xb4d0d8), 3.5},
+               {rgb(0xa6c6d2), 9},
+               {rgb(0x9abdcd), 19},
+               {rgb(0x90b5c7), 36},
+               {rgb(0x88aec2), 1e9}};
+  style.land = {{0, rgb(0xcdcba6)},    {140, rgb(0xd3cfa8)},  {300, rgb(0xd6cda2)},
+                {600, rgb(0xd5c497)},  {1000, rgb(0xcab387)}, {1600, rgb(0xb89a72)},
+                {2300, rgb(0xa8876b)}, {2700, rgb(0xc4b5a6)}, {3100, rgb(0xf5f2ec)}};
+  style.tints = {rgb(0xc6bda6), rgb(0xd88b88), rgb(0xe2c763),
+                 rgb(0x86ad6a), rgb(0xdd994d), rgb(0xb08ab4)};
+  style.tintStrength = 0.34;
+  style.ribbon = 0.15;
+  style.coast = rgb(0x3d6076);
+  style.border = rgb(0x7d4a4e);
+  style.water = rgb(0x4f88a6);
+  style.graticule = rgb(0xeef6f6);
+  return style;
+}
+
+MapStyle politicalStyle() {
+  MapStyle style = atlasStyle();
+  style.sea = {{rgb(0xb5dcec), 2},
+               {rgb(0x9dcfe5), 5},
+               {rgb(0x86c0dc), 11},
+               {rgb(0x72b1d2), 21},
+               {rgb(0x63a4c9), 1e9}};
+  style.tints = {rgb(0xd9cdb0), rgb(0xea7f7a), rgb(0xf6d24e),
+                 rgb(0x7cc466), rgb(0xf49b45), rgb(0xb27fcb)};
+  style.tintStrength = 0.72;
+  style.ribbon = 0.25;
+  style.neutralStrength = 0.85;
+  style.reliefStrength = 0.75;
+  style.coast = rgb(0x1f4f75);
+  style.border = rgb(0x5c2a3c);
+  style.water = rgb(0x2f7fb5);
+  style.graticuleAlpha = 0.35;
+  style.smallestRiver = 1;
+  return style;
+}
+
+}  // namespace mappa

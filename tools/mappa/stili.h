@@ -1,0 +1,13 @@
+// The colours of the maps.
+#pragma once
+
+#include "carta.h"
+
+namespace mappa {
+
+// Muted, so that squares, routes and labels stand out on it.
+MapStyle atlasStyle();
+// Strong colours by country, so that each piece of the puzzle can be told from the others.
+MapStyle politicalStyle();
+
+}  // namespace mappa

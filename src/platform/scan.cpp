@@ -15,10 +15,10 @@ constexpr int kUnit = 256;  // steps of x in a pixel
 
 Point Clamp(Point p) { return {ClampCoordinate(p.x), ClampCoordinate(p.y)}; }
 
-// Enough chords that none strays from the arc by more than a twentieth of a pixel.
+// Enough chords that none strays from the arc by more than a hundredth of a pixel.
 int ChordsOfQuarter(double radius) {
-  const int chords = static_cast<int>(std::ceil(std::sqrt(std::max(radius, 0.0)) * 2.5));
-  return std::clamp(chords, 2, 64);
+  const int chords = static_cast<int>(std::ceil(std::sqrt(std::max(radius, 0.0)) * 5.6));
+  return std::clamp(chords, 2, 128);
 }
 
 }  // namespace
@@ -95,6 +95,7 @@ void Outline::Scan(const DeviceRect& clip, const Row& row) const {
   struct Active {
     const Edge* edge;
     int firstSub, endSub;  // sub-rows whose middle lies on the edge
+    int x;                 // where the edge crosses the present one
   };
   std::vector<Active> waiting;
   waiting.reserve(edges_.size());
@@ -106,18 +107,14 @@ void Outline::Scan(const DeviceRect& clip, const Row& row) const {
   for (const Edge& e : edges_) {
     const int first = sub(e.y);
     const int end = sub(e.bottom);
-    if (first < end) waiting.push_back({&e, first, end});
+    if (first < end) waiting.push_back({&e, first, end, 0});
   }
   std::sort(waiting.begin(), waiting.end(),
             [](const Active& a, const Active& b) { return a.firstSub < b.firstSub; });
 
-  struct Crossing {
-    int x, winding;
-  };
   const int clipWidth = clip.width();
   const double widest = double(clipWidth) * kUnit;
   std::vector<Active> active;
-  std::vector<Crossing> crossings;
   std::vector<int> change(static_cast<std::size_t>(clipWidth) + 2, 0);
   std::vector<int> coverage(static_cast<std::size_t>(clipWidth) + 2, 0);
   std::size_t next = 0;
@@ -130,21 +127,19 @@ void Outline::Scan(const DeviceRect& clip, const Row& row) const {
       std::erase_if(active, [s](const Active& a) { return a.endSub <= s; });
       while (next < waiting.size() && waiting[next].firstSub <= s)
         active.push_back(waiting[next++]);
-      crossings.clear();
-      for (const Active& a : active) {
-        const double x = a.edge->x + (s + 0.5 - a.edge->y) * a.edge->slope - clip.left;
-        const int fixed = static_cast<int>(std::clamp(x * kUnit + 0.5, 0.0, widest));
+      for (std::size_t i = 0; i < active.size(); ++i) {
+        const Edge& e = *active[i].edge;
+        const double x = e.x + (s + 0.5 - e.y) * e.slope - clip.left;
+        active[i].x = static_cast<int>(std::clamp(x * kUnit + 0.5, 0.0, widest));
         // Nearly sorted from one line to the next.
-        std::size_t at = crossings.size();
-        crossings.push_back({fixed, a.edge->winding});
-        for (; at > 0 && crossings[at - 1].x > fixed; --at)
-          std::swap(crossings[at], crossings[at - 1]);
+        for (std::size_t at = i; at > 0 && active[at - 1].x > active[at].x; --at)
+          std::swap(active[at - 1], active[at]);
       }
       int winding = 0;
       int from = 0;
-      for (const Crossing& c : crossings) {
+      for (const Active& c : active) {
         const int before = winding;
-        winding += c.winding;
+        winding += c.edge->winding;
         if (before == 0) from = c.x;
         if (before == 0 || winding != 0 || c.x <= from) continue;
         const int a = from / kUnit;

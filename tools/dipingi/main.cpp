@@ -1,5 +1,4 @@
 // dipingi: draws one SVG into one picture file, or into a sprite's pair of picture and mask.
-#include <cstdio>
 #include <exception>
 #include <fstream>
 #include <iostream>
@@ -7,16 +6,21 @@
 
 #include "image.h"
 #include "parts.h"
+#include "perspective.h"
 
 namespace {
 
 constexpr char kUsage[] =
-    "usage: dipingi [--scala N] [--parti FOLDER] [--max-kb N] [--maschera MASK.png]\n"
-    "               [--dipendenze FILE.d] WIDTHxHEIGHT DRAWING.svg PICTURE.{png,jpg,bmp}\n";
+    "usage: dipingi [--scala N] [--parti FOLDER] [--max-kb N] [--sprite] [--maschera MASK.png]\n"
+    "               [--carta WIDTH | --dado] [--dipendenze FILE.d]\n"
+    "               WIDTHxHEIGHT DRAWING.svg PICTURE.{png,jpg,bmp}\n";
 
 struct Arguments {
   int scale = 2;
   int max_kb = 0;
+  int card = 0;      // the width of the card seen flat, if the picture is a turning card
+  bool die = false;  // the picture is a tilted die
+  bool sprite = false;
   int width = 0, height = 0;
   std::string parts, mask, dependencies, drawing, picture;
 };
@@ -47,9 +51,16 @@ Arguments Parse(int argc, char** argv) {
       arguments.scale = WholeNumber(value());
     } else if (word == "--max-kb") {
       arguments.max_kb = WholeNumber(value());
+    } else if (word == "--carta") {
+      arguments.card = WholeNumber(value());
+    } else if (word == "--dado") {
+      arguments.die = true;
     } else if (word == "--parti") {
       arguments.parts = value();
+    } else if (word == "--sprite") {
+      arguments.sprite = true;
     } else if (word == "--maschera") {
+      arguments.sprite = true;
       arguments.mask = value();
     } else if (word == "--dipendenze") {
       arguments.dependencies = value();
@@ -74,13 +85,25 @@ Arguments Parse(int argc, char** argv) {
   return arguments;
 }
 
+dipingi::Image Draw(const Arguments& arguments, const std::string& svg) {
+  const int width = arguments.width * arguments.scale, height = arguments.height * arguments.scale;
+  if (arguments.card > 0)
+    return dipingi::TurnCard(
+        dipingi::Render(svg, arguments.drawing, arguments.card * arguments.scale, height), width);
+  if (arguments.die)
+    return dipingi::TiltDie(dipingi::Render(svg, arguments.drawing, 2 * height, height), width,
+                            height);
+  return dipingi::Render(svg, arguments.drawing, width, height);
+}
+
 void Run(const Arguments& arguments) {
   dipingi::Parts parts(arguments.parts);
   const std::string svg = parts.Expand(dipingi::ReadText(arguments.drawing), arguments.drawing);
-  dipingi::Image image = dipingi::Render(svg, arguments.drawing, arguments.width * arguments.scale,
-                                         arguments.height * arguments.scale);
-  if (!arguments.mask.empty())
-    dipingi::Write(dipingi::CutSprite(image), arguments.mask, arguments.max_kb);
+  dipingi::Image image = Draw(arguments, svg);
+  if (arguments.sprite) {
+    const dipingi::Image mask = dipingi::CutSprite(image);
+    if (!arguments.mask.empty()) dipingi::Write(mask, arguments.mask, arguments.max_kb);
+  }
   dipingi::Write(image, arguments.picture, arguments.max_kb);
   if (!arguments.dependencies.empty()) {
     std::ofstream out(arguments.dependencies);

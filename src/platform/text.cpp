@@ -23,8 +23,8 @@ double WidthOf(SizedFont& font, std::string_view line) {
 template <class Visit>
 void WrapParagraph(SizedFont& font, std::string_view text, double limit, const Visit& visit) {
   std::size_t start = 0;     // of the line
-  std::size_t breakEnd = 0;  // before the last blanks of the line, `start` if there are none
-  std::size_t next = 0;      // behind them
+  std::size_t breakEnd = 0;  // before the last blanks of the line
+  std::size_t next = 0;      // behind them; not after `start` if there are none
   double width = 0, breakWidth = 0, nextWidth = 0;
   bool afterBlank = false;
   for (std::size_t at = 0; at < text.size();) {
@@ -43,20 +43,20 @@ void WrapParagraph(SizedFont& font, std::string_view text, double limit, const V
       continue;
     }
     afterBlank = false;
-    if (width + advance > limit + kSlack && breakEnd > start) {
+    if (width + advance > limit + kSlack && next > start) {
       visit(text.substr(start, breakEnd - start), breakWidth);
-      start = breakEnd = next;
+      start = next;
       width -= nextWidth;
     }
     if (width + advance > limit + kSlack && here > start) {
       visit(text.substr(start, here - start), width);
-      start = breakEnd = here;
+      start = here;
       width = 0;
     }
     width += advance;
   }
   // Blanks at the very end do not push a line out of its box.
-  const bool hanging = afterBlank && breakEnd >= start && width > limit + kSlack;
+  const bool hanging = afterBlank && width > limit + kSlack;
   visit(text.substr(start), hanging ? breakWidth : width);
 }
 

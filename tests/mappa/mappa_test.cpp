@@ -56,8 +56,8 @@ TEST(BoardProjection, BringsTheCitiesUnderTheirSquares) {
   }
   std::sort(residuals.begin(), residuals.end());
   ASSERT_EQ(residuals.size(), 95U);
-  EXPECT_LT(residuals[residuals.size() / 2], 2.5);
-  EXPECT_LT(residuals.back(), 8);
+  EXPECT_LT(residuals[residuals.size() / 2], 1.5);
+  EXPECT_LT(residuals.back(), 6);
 }
 
 TEST(BoardProjection, NowhereFoldsTheMap) {

@@ -1,18 +1,12 @@
 // The map of the two trials in which a city is to be found: the board's map, with dark corners and
 // a dark foot for the texts.
 #include "ornamenti.h"
-#include "stili.h"
 #include "tavole.h"
 
 namespace mappa {
 
 Canvas trialPicture(const World& world, int scale) {
-  Canvas page(800, 600, scale);
-  drawMap(page, world, BoardProjection(world.cities), atlasStyle());
-  drawRose(page, {58, 318}, 40,
-           {.dark = rgb(0x4d7590), .light = rgb(0xd9e6e6), .ring = rgb(0xd9e6e6), .alpha = 0.75});
-  drawShip(page, {40, 256}, 24, rgb(0x4d7590), rgb(0xdfe9e6));
-  drawMargin(page);
+  Canvas page = boardPage(world, scale);
   cairo_t* cr = page.cr();
 
   // The foot, higher at the right under the button.

@@ -62,13 +62,18 @@ void drawFarPlaces(const Canvas& page, const World& world) {
 
 }  // namespace
 
-Canvas boardPicture(const World& world, int scale) {
+Canvas boardPage(const World& world, int scale) {
   Canvas page(800, 600, scale);
   drawMap(page, world, BoardProjection(world.cities), atlasStyle());
   drawRose(page, {58, 318}, 40,
            {.dark = rgb(0x4d7590), .light = rgb(0xd9e6e6), .ring = rgb(0xd9e6e6), .alpha = 0.75});
   drawShip(page, {40, 256}, 24, rgb(0x4d7590), rgb(0xdfe9e6));
   drawMargin(page);
+  return page;
+}
+
+Canvas boardPicture(const World& world, int scale) {
+  Canvas page = boardPage(world, scale);
   tracePlaque(page.cr(), 146, 388.5, false);
   paintPlaque(page);
   tracePlaque(page.cr(), 448, 812, true);

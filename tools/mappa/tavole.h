@@ -6,6 +6,9 @@
 
 namespace mappa {
 
+// The map alone, as the board and the trials share it.
+Canvas boardPage(const World& world, int scale);
+
 Canvas boardPicture(const World& world, int scale);
 Canvas trialPicture(const World& world, int scale);
 Canvas orderingPicture(const World& world, int scale);

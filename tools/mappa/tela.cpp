@@ -37,7 +37,7 @@ std::uint8_t* Canvas::row(int y) const {
 
 void Canvas::put(int x, int y, Colour c, double alpha) const {
   const auto byte = [alpha](double v) {
-    return static_cast<std::uint8_t>(std::clamp(v, 0.0, 1.0) * alpha * 255 + 0.5);
+    return static_cast<std::uint8_t>(std::lround(std::clamp(v, 0.0, 1.0) * alpha * 255));
   };
   std::uint8_t* pixel = row(y) + static_cast<std::ptrdiff_t>(x) * 4;
   pixel[0] = byte(c.b);

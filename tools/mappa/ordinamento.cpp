@@ -100,8 +100,8 @@ Canvas orderingPicture(const World& world, int scale) {
   drawMap(page, world, EqualAreaProjection({13, 52.5}, {400, 300}, 13.4), atlasStyle());
   drawRhumbs(page);
   drawRing(page);
-  for (const Point corner : {Point{40, 38}, {760, 38}, {40, 562}, {760, 562}}) {
-    drawRose(page, corner, 32,
+  for (const Point corner : {Point{24, 18}, {776, 18}, {24, 581}, {776, 581}}) {
+    drawRose(page, corner, 17,
              {.dark = rgb(0x0e1a30), .light = kGold, .ring = kGold, .alpha = 0.7});
   }
   cairo_t* cr = page.cr();

@@ -4,10 +4,15 @@
 
 #include "core/mod_Girovia.h"
 #include "core/stato.h"
+#include "effects/form_dadi.h"
+#include "effects/form_rotazione_carta.h"
 #include "platform/msgbox.h"
+#include "screens/form_banconote.h"
+#include "screens/form_bonus.h"
 #include "screens/form_messaggi.h"
 #include "screens/form_sovrapposizioni.h"
 #include "screens/segnaposto.h"
+#include "trials/form_carte2_items.h"
 
 namespace girovia {
 
@@ -85,11 +90,28 @@ void Gioco::MostraModale(Schermata schermata) {
       form.ShowModal();
       break;
     }
+    case Schermata::FormBanconote:
+      FormBanconote(ambiente_).ShowModal();
+      break;
+    case Schermata::FormBonus:
+      FormBonus(ambiente_).ShowModal();
+      break;
+    case Schermata::FormCarte2Items:
+      FormCarte2Items(ambiente_).ShowModal();
+      break;
+    case Schermata::FormRotazioneCarta:
+      FormRotazioneCarta(ambiente_).ShowModal();
+      break;
     default:
       Segnaposto(ambiente_, schermata).ShowModal();
   }
 }
 
-void Gioco::MostraNonModale(Schermata) {}
+void Gioco::MostraNonModale(Schermata schermata) {
+  if (schermata != Schermata::Dadi) return;
+  auto dadi = std::make_unique<Dadi>(ambiente_);
+  dadi->Show();
+  screen_.Own(std::move(dadi));
+}
 
 }  // namespace girovia

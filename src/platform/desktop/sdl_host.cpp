@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <cstdlib>
 #include <map>
 
 #include "platform/desktop/sdl_voice.h"
@@ -246,8 +247,21 @@ std::unique_ptr<Host> OpenDesktop(const DesktopOptions& options, std::string& wh
   SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
   SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
   SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+#ifdef __linux__
+  // With no display server named there is only the console; asking the others would have them
+  // complain on stderr.
+  if (!std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY"))
+    SDL_SetHint(SDL_HINT_VIDEODRIVER, "KMSDRM");
+#endif
   if (SDL_Init(SDL_INIT_VIDEO) != 0) {
     why = SDL_GetError();
+    SDL_Quit();
+    return nullptr;
+  }
+  // SDL falls back on drivers that draw into memory where nobody sees it.
+  const std::string driver = SDL_GetCurrentVideoDriver();
+  if (driver == "offscreen" || driver == "dummy") {
+    why = "nessun display";
     SDL_Quit();
     return nullptr;
   }

@@ -1,0 +1,24 @@
+// The card that turns about its upright axis before a card trial.
+#pragma once
+
+#include "effects/rotazione_logica.h"
+#include "screens/ambiente.h"
+
+namespace girovia {
+
+class FormRotazioneCarta : public platform::Form {
+ public:
+  explicit FormRotazioneCarta(Ambiente& ambiente);
+
+  void Form_Activate() override;
+
+ private:
+  void Show(const FotogrammaCarta& fotogramma);
+  void Wipe();
+
+  Ambiente& a_;
+  platform::ControlArray<platform::PictureBox> Nero, Retro, Avanti;
+  platform::PictureBox PicBGround;
+};
+
+}  // namespace girovia

@@ -1,0 +1,12 @@
+#include "effects/mod_FormTrasparente.h"
+
+#include "platform/screen.h"
+
+namespace girovia {
+
+void CatturaSchermo(platform::Form& form) {
+  form.surface().BitBlt(0, 0, form.width(), form.height(), form.screen().CaptureUnder(form), 0, 0,
+                        platform::RasterOp::SrcCopy);
+}
+
+}  // namespace girovia

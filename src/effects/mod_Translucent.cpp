@@ -1,0 +1,14 @@
+#include "effects/mod_Translucent.h"
+
+#include "platform/screen.h"
+
+namespace girovia {
+
+void Traslucido(platform::Form& form, platform::Color colore) {
+  const double W = form.width(), H = form.height();
+  form.surface().BitBlt(0, 0, W, H, form.screen().Capture(form), 0, 0, platform::RasterOp::SrcCopy);
+  form.surface().FillBoxAnd(0, 0, W, H, colore);
+  form.Invalidate();
+}
+
+}  // namespace girovia

@@ -28,16 +28,21 @@ std::uint32_t Little(const unsigned char* p, int bytes) {
   return value;
 }
 
-// Nothing if it is none, or of the old kind with 16-bit sizes.
+// Nothing if it is none, of the old kind with 16-bit sizes, or beyond all reason.
 std::optional<Header> ReadHeader(const unsigned char* p, std::size_t size) {
   if (size < kHeader || p[0] != 'B' || p[1] != 'M' || Little(p + 14, 4) < 40) return {};
   const auto height = static_cast<std::int32_t>(Little(p + 22, 4));
-  return Header{Little(p + 10, 4),
-                static_cast<std::int32_t>(Little(p + 18, 4)),
-                height < 0 ? -std::int64_t(height) : height,
-                height > 0,
-                static_cast<int>(Little(p + 28, 2)),
-                Little(p + 30, 4)};
+  const Header header{Little(p + 10, 4),
+                      static_cast<std::int32_t>(Little(p + 18, 4)),
+                      height < 0 ? -std::int64_t(height) : height,
+                      height > 0,
+                      static_cast<int>(Little(p + 28, 2)),
+                      Little(p + 30, 4)};
+  constexpr int kLargest = 1 << 16;  // keeps the products small, too
+  if (header.width < 1 || header.width > kLargest || header.height < 1 ||
+      header.height > kLargest || header.bits > 32)
+    return {};
+  return header;
 }
 
 // Four pixels are three whole words.
@@ -63,9 +68,8 @@ bool ReadPlainBitmap(std::FILE* file, int largest, std::vector<std::uint32_t>& a
   if (std::fread(bytes, 1, kHeader, file) != kHeader) return false;
   const std::optional<Header> header = ReadHeader(bytes, kHeader);
   struct stat info {};
-  if (!header || header->bits != 24 || header->compression != 0 || header->width < 1 ||
-      header->height < 1 || header->width > largest || header->height > largest ||
-      fstat(fileno(file), &info) != 0 || header->end() > info.st_size ||
+  if (!header || header->bits != 24 || header->compression != 0 || header->width > largest ||
+      header->height > largest || fstat(fileno(file), &info) != 0 || header->end() > info.st_size ||
       std::fseek(file, static_cast<long>(header->pixels), SEEK_SET) != 0)
     return false;
   width = static_cast<int>(header->width);
@@ -94,8 +98,7 @@ bool BitmapIsWhole(std::string_view bytes) {
   constexpr std::uint32_t kBitFields = 3;
   if (!header) return false;
   if (header->compression != kPlain && header->compression != kBitFields) return true;
-  return header->width > 0 && header->height > 0 && header->bits <= 32 &&
-         header->end() <= static_cast<std::int64_t>(bytes.size());
+  return header->end() <= static_cast<std::int64_t>(bytes.size());
 }
 
 }  // namespace platform

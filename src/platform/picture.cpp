@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "platform/bitmap_file.h"
+#include "platform/jpeg_file.h"
 #include "platform/pixel.h"
 #include "platform/resample.h"
 
@@ -23,12 +24,9 @@ struct Closer {
   void operator()(stbi_uc* p) const { stbi_image_free(p); }
 };
 
-// The decoders fill up with anything what a cut file lacks, so its end is looked for here.
+// The decoders fill up with anything what a cut file lacks, so its end is looked for beforehand.
 bool IsWhole(std::string_view bytes) {
-  if (bytes.starts_with("\xFF\xD8")) {
-    const std::size_t scan = bytes.rfind("\xFF\xDA");
-    return scan != bytes.npos && bytes.find("\xFF\xD9", scan) != bytes.npos;
-  }
+  if (bytes.starts_with("\xFF\xD8")) return JpegIsWhole(bytes);
   return !bytes.starts_with("BM") || BitmapIsWhole(bytes);
 }
 

@@ -25,7 +25,7 @@ std::string Read(const std::string& path) {
 }
 
 void Add(std::string& bytes, std::int64_t value, int count) {
-  for (int i = 0; i < count; ++i) bytes += static_cast<char>(value >> i * 8 & 0xFF);
+  for (int i = 0; i < count; ++i, value >>= 8) bytes += static_cast<char>(value & 0xFF);
 }
 
 // Pixel (x, y) of the pictures that are written here.

@@ -81,13 +81,10 @@ void Write(const Image& image, const std::string& path, int max_kb) {
 }
 
 std::string ReadText(const std::string& path) {
+  if (std::filesystem::is_directory(path)) throw Error(path + " cannot be read: it is a folder.");
   std::ifstream in(path, std::ios::binary);
-  // A folder opens like a file here and fails only when it is read.
-  std::string text{std::istreambuf_iterator<char>(in), {}};
-  if (!in.is_open() || in.bad() || std::filesystem::is_directory(path))
-    throw Error(path + " cannot be read" + (errno ? std::string(": ") + std::strerror(errno) : "") +
-                ".");
-  return text;
+  if (!in) throw Error(path + " cannot be read: " + std::strerror(errno) + ".");
+  return {std::istreambuf_iterator<char>(in), {}};
 }
 
 }  // namespace dipingi

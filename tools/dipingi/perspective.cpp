@@ -63,6 +63,7 @@ Image Warp(const Image& image, int width, int height, const Place& source) {
 }  // namespace
 
 Image TurnCard(const Image& flat, int width) {
+  if (width >= flat.width) return flat;
   constexpr double kEye = 5;  // distance of the eye, in half widths of the card
   // x of the card's point u (-1 to 1) after a turn by `angle`, the near edge being at its true
   // size.
@@ -75,7 +76,7 @@ Image TurnCard(const Image& flat, int width) {
     const double seen = (place(1, angle) - place(-1, angle)) / 2;
     (seen * flat.width > width ? flat_angle : steep_angle) = angle;
   }
-  const double angle = width >= flat.width ? 0 : flat_angle;
+  const double angle = flat_angle;
   const double left = place(-1, angle), right = place(1, angle);
   const double light = 1 - 0.3 * (1 - std::cos(angle));
   return Warp(flat, width, flat.height, [&](double x, double y) {

@@ -18,7 +18,9 @@ struct Release {
 
 std::string Message(GError* raw) {
   std::unique_ptr<GError, Release> error(raw);
-  return error ? error->message : "unknown reason";
+  std::string message = error ? error->message : "unknown reason";
+  while (!message.empty() && (message.back() == '\n' || message.back() == '.')) message.pop_back();
+  return message;
 }
 
 void CheckShape(RsvgHandle* handle, const std::string& name, int width, int height) {

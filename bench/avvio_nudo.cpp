@@ -4,9 +4,10 @@
 
 #include <chrono>
 #include <cstdio>
-#include <cstring>
 
-int main(int argc, char** argv) {
+#include "misure.h"
+
+int main(int, char**) {
   const auto start = std::chrono::steady_clock::now();
   SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   if (SDL_Init(SDL_INIT_VIDEO) != 0) return 1;
@@ -17,13 +18,8 @@ int main(int argc, char** argv) {
   SDL_UpdateWindowSurface(window);
   const std::chrono::duration<double, std::milli> ms = std::chrono::steady_clock::now() - start;
   std::printf("first-picture-ms %.1f\n", ms.count());
-  std::fflush(stdout);
-  // Stays up until it is told to go, so that its memory can be read.
-  if (argc > 1 && std::strcmp(argv[1], "--resta") == 0) {
-    SDL_Event event;
-    while (SDL_WaitEvent(&event) && event.type != SDL_QUIT) {
-    }
-  }
+  SDL_Delay(1000);
+  std::printf("pss-megabytes %.1f\n", PssMegabytes());
   SDL_DestroyWindow(window);
   SDL_Quit();
   return 0;

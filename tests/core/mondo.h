@@ -62,6 +62,7 @@ class Mondo : public Tabellone,
   void ContaGruzzolo(int p, Euro da, Euro a) override;
   void ScriviGruzzolo(int p, Euro valore) override;
   void ColoraGruzzoli(int colore1, int colore2) override;
+  void EseguiEventi() override { Scrivi("Eventi"); }
   void NascondiAnnuncio() override { Scrivi("NascondiAnnuncio"); }
   void ScriviAnnuncio(std::string_view testo) override;
   void AvviaLampeggio() override { Scrivi("AvviaLampeggio"); }

@@ -46,6 +46,7 @@ TEST(Sorprese, SoloUnoSuTreAspettaELampeggiaTrentaVolte) {
   }
   Mondo mondo;
   Giocatore = 1;
+  statoTabellone.ContaLampeggi = 30;
   mondo.Esce(1, 3);
   ProceduraSorpresa();
   for (int i = 0; i < 30; ++i) TimerSorpresa_Timer();

@@ -15,6 +15,9 @@ void RinunciaAlPrimoTurno(Mondo& mondo, int giocatore) {
   mondo.alla[Schermata::FormProvaOrdinamento] = Risponde(0);
   mondo.Tira(giocatore, 7);
   EXPECT_EQ(Pos[giocatore], 7);
+  // Square 0 keeps the size of its pulse through the dice; the move puts it at rest.
+  EXPECT_TRUE(mondo.Da("NascondiAnnuncio")
+                  .starts_with("NascondiAnnuncio Ridisegna Dadi FormBanconote Riduci 0"));
   EXPECT_EQ(Gruzzolo[giocatore], Euro::Interi(17));
   EXPECT_EQ(Giocatore, 3 - giocatore);
   EXPECT_EQ(statoTabellone.TurnoInCorso, Falso);

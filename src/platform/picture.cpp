@@ -132,15 +132,21 @@ void Picture::Draw(Surface& destination, const Rect& place) const {
   if (visible.empty() || argb_.empty() || to.width() > 2 * kLargestSide ||
       to.height() > 2 * kLargestSide)
     return;
-  const std::vector<std::uint32_t> pixels =
-      Resample({argb_.data(), width_, width_, height_}, to.width(), to.height(), transparent_);
+  const bool same = to.width() == width_ && to.height() == height_;
+  if (!same && (to.width() != drawnWidth_ || to.height() != drawnHeight_)) {
+    drawn_ =
+        Resample({argb_.data(), width_, width_, height_}, to.width(), to.height(), transparent_);
+    drawnWidth_ = to.width();
+    drawnHeight_ = to.height();
+  }
+  const std::vector<std::uint32_t>& pixels = same ? argb_ : drawn_;
   if (pixels.empty()) return;
   for (int y = visible.top; y < visible.bottom; ++y) {
-    const std::uint32_t* from =
-        pixels.data() + static_cast<std::size_t>(y - to.top) * to.width() - to.left;
-    std::uint32_t* row = destination.row(y);
-    for (int x = visible.left; x < visible.right; ++x)
-      row[x] = transparent_ ? Blend(row[x], from[x], Widen(from[x] >> 24)) : from[x];
+    const std::uint32_t* from = pixels.data() + static_cast<std::size_t>(y - to.top) * to.width() +
+                                (visible.left - to.left);
+    std::uint32_t* row = destination.row(y) + visible.left;
+    for (int i = 0; i < visible.width(); ++i)
+      row[i] = transparent_ ? Blend(row[i], from[i], Widen(from[i] >> 24)) : from[i] & 0xFFFFFF;
   }
 }
 

@@ -42,6 +42,10 @@ class Picture {
   int height_ = 0;
   bool transparent_ = false;
   std::vector<std::uint32_t> argb_;
+  // As last drawn in another size: repaints come often, and mostly for a small part.
+  mutable std::vector<std::uint32_t> drawn_;
+  mutable int drawnWidth_ = 0;
+  mutable int drawnHeight_ = 0;
 };
 
 // Saves device pixels as PNG. False if the file cannot be written.

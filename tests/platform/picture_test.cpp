@@ -190,6 +190,16 @@ TEST(Picture, BlendsWhatIsHalfTransparent) {
   EXPECT_EQ(s.row(3)[4], fitted.row(0)[0]);
   EXPECT_EQ(s.PixelAt(5, 3), colors::kBlue);
   EXPECT_EQ(s.PixelAt(4, 4), colors::kBlue);  // beyond the clip
+  // In other sizes, again after one and another.
+  for (const double size : {6.0, 1.0, 6.0}) {
+    s.SetClip(s.deviceBounds());
+    s.Cls(colors::kBlue);
+    glass->Draw(s, {-3, -2, size, size});
+    EXPECT_EQ(s.PixelAt(0, size - 1), size > 1 ? colors::kGreen : s.PixelAt(0, 0));
+    EXPECT_NE(s.PixelAt(0, 0), colors::kBlue);
+    EXPECT_EQ(s.PixelAt(size, 0), colors::kBlue);
+    EXPECT_EQ(s.PixelAt(0, size), colors::kBlue);
+  }
   EXPECT_FALSE(Picture::FromPixels(2, 2, {1, 2, 3}));
   EXPECT_EQ(glass->Fit(0, 5, 1).deviceWidth(), 0);
 }

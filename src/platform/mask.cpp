@@ -38,6 +38,7 @@ Mask Mask::RoundRect(int width, int height, int scale, const Rect& r, double ell
 Mask Mask::Polygon(int width, int height, int scale, const std::vector<Point>& points) {
   Mask mask(width, height, scale);
   std::vector<Point> placed;
+  placed.reserve(points.size());
   for (const Point& p : points) placed.push_back({p.x * mask.scale_, p.y * mask.scale_});
   Outline outline;
   outline.AddPolygon(placed);

@@ -97,7 +97,7 @@ Reducer::Reducer(int sourceWidth, int sourceHeight, int targetWidth, int targetH
     columnWeights_[columns_[i].weight + at / 2] |= static_cast<std::uint32_t>(weight)
                                                    << at % 2 * 16;
   });
-  line_.resize((static_cast<std::size_t>(sourceWidth_) + pairs_ * 2) * 4);
+  line_.resize((static_cast<std::size_t>(sourceWidth_) + static_cast<std::size_t>(pairs_) * 2) * 4);
 }
 
 DeviceRect Reducer::TargetOf(const DeviceRect& source) const {

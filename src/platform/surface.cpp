@@ -49,8 +49,8 @@ Surface::Surface(int width, int height, int scale, std::vector<std::uint32_t> pi
 }
 
 Color Surface::PixelAt(double x, double y) const {
-  const double column = std::floor(ClampCoordinate(x)) * scale_ + scale_ / 2;
-  const double line = std::floor(ClampCoordinate(y)) * scale_ + scale_ / 2;
+  const double column = std::floor((std::floor(ClampCoordinate(x)) + 0.5) * scale_);
+  const double line = std::floor((std::floor(ClampCoordinate(y)) + 0.5) * scale_);
   if (column < 0 || line < 0 || column >= deviceWidth() || line >= deviceHeight()) return 0;
   return SwapRedBlue(row(static_cast<int>(line))[static_cast<int>(column)]);
 }

@@ -25,6 +25,12 @@ class Spettatore {
   void Tocca() {
     platform::Form* form = gioco_.screen().top();
     if (!form) return;
+    // A new screen is looked at for a moment before it is answered; its picture is taken then.
+    if (form != davanti_) {
+      davanti_ = form;
+      daQuando_ = host_.NowMicros();
+    }
+    if (host_.NowMicros() - daQuando_ < kSguardo) return;
     Fotografa(form->name());
     if (host_.NowMicros() > kDurataMassima) {
       host_.Queue({platform::EventKind::Quit, 0, 0, platform::MouseButton::Left});
@@ -59,11 +65,14 @@ class Spettatore {
   }
 
   static constexpr std::int64_t kDurataMassima = 3LL * 3600 * 1'000'000;
+  static constexpr std::int64_t kSguardo = 1'500'000;
 
   platform::HeadlessHost& host_;
   Gioco& gioco_;
   std::string galleria_;
   std::set<std::string> viste_;
+  platform::Form* davanti_ = nullptr;
+  std::int64_t daQuando_ = 0;
   platform::ClockRandom caso_;
 };
 

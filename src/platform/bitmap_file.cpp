@@ -6,6 +6,8 @@
 #include <cstring>
 #include <optional>
 
+#include "platform/pages.h"
+
 namespace platform {
 namespace {
 
@@ -75,7 +77,9 @@ bool ReadPlainBitmap(std::FILE* file, int largest, std::vector<std::uint32_t>& a
   width = static_cast<int>(header->width);
   height = static_cast<int>(header->height);
   const auto stride = static_cast<std::size_t>(header->stride());
-  argb.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+  const auto count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+  ReservePixels(argb, count);
+  argb.resize(count);
   // In pieces that stay in the processor's cache.
   const std::size_t rowsAtOnce = std::max<std::size_t>(1, (std::size_t(1) << 17) / stride);
   std::vector<unsigned char> block(rowsAtOnce * stride);

@@ -4,14 +4,17 @@
 
 #include <algorithm>
 
+#include "platform/pages.h"
 #include "platform/reduce.h"
 
 namespace platform {
 
 std::vector<std::uint32_t> Resample(const PixelView& source, int width, int height, bool alpha) {
   if (width <= 0 || height <= 0 || source.width <= 0 || source.height <= 0) return {};
-  std::vector<std::uint32_t> result(static_cast<std::size_t>(width) *
-                                    static_cast<std::size_t>(height));
+  std::vector<std::uint32_t> result;
+  const auto count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+  ReservePixels(result, count);
+  result.resize(count);
   const bool same = width == source.width && height == source.height;
   if (same && alpha) {
     for (int y = 0; y < height; ++y)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/pages.h"
 #include "platform/pixel.h"
 #include "platform/resample.h"
 
@@ -32,8 +33,10 @@ Surface::Surface(int width, int height, int scale, Color back)
     : width_(width), height_(height), scale_(scale) {
   MakeUsable(width_, height_, scale_);
   clip_ = deviceBounds();
-  pixels_.assign(static_cast<std::size_t>(deviceWidth()) * static_cast<std::size_t>(deviceHeight()),
-                 SwapRedBlue(back));
+  const auto count =
+      static_cast<std::size_t>(deviceWidth()) * static_cast<std::size_t>(deviceHeight());
+  ReservePixels(pixels_, count);
+  pixels_.assign(count, SwapRedBlue(back));
 }
 
 Surface::Surface(int width, int height, int scale, std::vector<std::uint32_t> pixels)

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <map>
+#include <utility>
 
 #include "platform/desktop/sdl_voice.h"
 #include "platform/picture.h"
@@ -109,6 +110,10 @@ class SdlHost : public Host {
     }
     if (SDL_MUSTLOCK(target)) SDL_UnlockSurface(target);
     if (!rects.empty()) SDL_UpdateWindowSurfaceRects(window_, rects.data(), int(rects.size()));
+    if (!shown_) {
+      shown_ = true;
+      if (firstSound_) PlaySound(std::exchange(firstSound_, nullptr));
+    }
   }
 
   void SetPointer(const Pointer& pointer, double scale) override {
@@ -125,7 +130,11 @@ class SdlHost : public Host {
   }
 
   void PlaySound(const std::shared_ptr<const Wave>& wave) override {
-    voice_.Play(wave, NowMicros());
+    // Opening the sound system takes as long as the window does: the first picture goes first.
+    if (shown_)
+      voice_.Play(wave, NowMicros());
+    else
+      firstSound_ = wave;
   }
 
  private:
@@ -236,6 +245,8 @@ class SdlHost : public Host {
   PixelSize reducedPlane_, reducedWindow_;
   std::map<std::pair<int, const Picture*>, Cursor> cursors_;
   SdlVoice voice_;
+  bool shown_ = false;
+  std::shared_ptr<const Wave> firstSound_;
 };
 
 }  // namespace

@@ -1,5 +1,8 @@
 #include "platform/desktop/sdl_voice.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstring>
 
@@ -8,6 +11,28 @@ namespace {
 
 // Effects often follow each other: the device stays open for a while after each.
 constexpr std::int64_t kKeepOpenMicros = 2'000'000;
+
+// The sound library of the system tells on stderr, in a dozen lines, that there is no device; the
+// game takes no notice of that, and neither shall who plays.
+class QuietStderr {
+ public:
+  QuietStderr() : saved_(dup(2)) {
+    const int null = open("/dev/null", O_WRONLY);
+    if (null < 0) return;
+    dup2(null, 2);
+    close(null);
+  }
+  ~QuietStderr() {
+    if (saved_ < 0) return;
+    dup2(saved_, 2);
+    close(saved_);
+  }
+  QuietStderr(const QuietStderr&) = delete;
+  QuietStderr& operator=(const QuietStderr&) = delete;
+
+ private:
+  int saved_;
+};
 
 }  // namespace
 
@@ -27,6 +52,7 @@ void SdlVoice::Fill(void* self, Uint8* stream, int bytes) {
 bool SdlVoice::Open(int rate, int channels) {
   if (device_ && rate == rate_ && channels == channels_) return true;
   Close();
+  const QuietStderr quiet;
   if (!SDL_WasInit(SDL_INIT_AUDIO) && SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return false;
   SDL_AudioSpec want{};
   want.freq = rate;

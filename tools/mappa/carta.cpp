@@ -12,12 +12,14 @@ class MapPainter {
  public:
   MapPainter(const Canvas& canvas, const World& world, const Projection& projection,
              const MapStyle& style)
-      : canvas_(canvas), world_(world), projection_(projection), style_(style) {
-    for (const Arc& arc : world.arcs) arcs_.push_back(project(projection, arc.points));
-  }
+      : canvas_(canvas),
+        world_(world),
+        projection_(projection),
+        style_(style),
+        outlines_(world, projection) {}
 
   void draw() {
-    const Canvas mask = landMask();
+    const Canvas mask = outlines_.landMask(canvas_.width(), canvas_.height(), canvas_.scale());
     paintSea(mask);
     drawGraticule();
     const Canvas land = landPicture(mask);
@@ -29,35 +31,6 @@ class MapPainter {
   }
 
  private:
-  Canvas landMask() const {
-    Canvas mask(canvas_.width(), canvas_.height(), canvas_.scale());
-    mask.setColour(rgb(0xffffff));
-    // Added up, so that no seam shows where two countries share an edge pixel.
-    cairo_set_operator(mask.cr(), CAIRO_OPERATOR_ADD);
-    for (const Country& country : world_.countries) {
-      traceCountry(mask.cr(), country);
-      cairo_fill(mask.cr());
-    }
-    mask.flush();
-    return mask;
-  }
-
-  void traceCountry(cairo_t* cr, const Country& country) const {
-    cairo_set_fill_rule(cr, CAIRO_FILL_RULE_EVEN_ODD);
-    for (const Ring& ring : country.rings) {
-      cairo_new_sub_path(cr);
-      for (const ArcUse& use : ring) {
-        const Line& line = arcs_[use.arc];
-        if (use.reversed) {
-          tracePath(cr, Line(line.rbegin(), line.rend()));
-        } else {
-          tracePath(cr, line);
-        }
-      }
-      cairo_close_path(cr);
-    }
-  }
-
   void paintSea(const Canvas& mask) const {
     Field sea(canvas_.pixelWidth(), canvas_.pixelHeight());
     for (int y = 0; y < sea.height; ++y) {
@@ -128,8 +101,9 @@ class MapPainter {
     };
     cairo_set_line_width(cr, 0.6 * style_.lineWidth);
     canvas_.setColour(style_.graticule, style_.graticuleAlpha);
-    for (int lon = -40; lon <= 70; lon += 5) line({double(lon), 24}, {double(lon), 78});
-    for (int lat = 25; lat <= 75; lat += 5) line({-40, double(lat)}, {70, double(lat)});
+    const int step = style_.graticuleStep;
+    for (int lon = -40; lon <= 70; lon += step) line({double(lon), 24}, {double(lon), 78});
+    for (int lat = 25; lat <= 75; lat += step) line({-40, double(lat)}, {70, double(lat)});
   }
 
   // Tints of the countries, with a stronger band along the inside of each border.
@@ -139,7 +113,7 @@ class MapPainter {
     for (const Country& country : world_.countries) {
       const Colour colour = style_.tints[static_cast<std::size_t>(country.tint)];
       const double strength = country.tint == 0 ? style_.neutralStrength : style_.tintStrength;
-      traceCountry(cr, country);
+      outlines_.traceCountry(cr, country);
       cairo_save(cr);
       cairo_clip(cr);
       cairo_set_operator(cr, CAIRO_OPERATOR_SOURCE);
@@ -154,7 +128,7 @@ class MapPainter {
             for (const ArcUse& use : ring) {
               if (world_.arcs[use.arc].kind != ArcKind::border) continue;
               cairo_new_sub_path(cr);
-              tracePath(cr, arcs_[use.arc]);
+              tracePath(cr, outlines_.line(use.arc));
             }
           }
           cairo_stroke(cr);
@@ -267,11 +241,7 @@ class MapPainter {
     cairo_t* cr = canvas_.cr();
     canvas_.setColour(colour, alpha);
     cairo_set_line_width(cr, width * style_.lineWidth);
-    for (std::size_t i = 0; i < arcs_.size(); ++i) {
-      if (world_.arcs[i].kind != kind) continue;
-      cairo_new_sub_path(cr);
-      tracePath(cr, arcs_[i]);
-    }
+    outlines_.traceArcs(cr, kind);
     cairo_stroke(cr);
   }
 
@@ -279,10 +249,51 @@ class MapPainter {
   const World& world_;
   const Projection& projection_;
   const MapStyle& style_;
-  std::vector<Line> arcs_;
+  const Outlines outlines_;
 };
 
 }  // namespace
+
+Outlines::Outlines(const World& world, const Projection& projection) : world_(world) {
+  for (const Arc& arc : world.arcs) lines_.push_back(project(projection, arc.points));
+}
+
+void Outlines::traceCountry(cairo_t* cr, const Country& country) const {
+  cairo_set_fill_rule(cr, CAIRO_FILL_RULE_EVEN_ODD);
+  for (const Ring& ring : country.rings) {
+    cairo_new_sub_path(cr);
+    for (const ArcUse& use : ring) {
+      const Line& line = lines_[use.arc];
+      if (use.reversed) {
+        tracePath(cr, Line(line.rbegin(), line.rend()));
+      } else {
+        tracePath(cr, line);
+      }
+    }
+    cairo_close_path(cr);
+  }
+}
+
+void Outlines::traceArcs(cairo_t* cr, ArcKind kind) const {
+  for (std::size_t i = 0; i < lines_.size(); ++i) {
+    if (world_.arcs[i].kind != kind) continue;
+    cairo_new_sub_path(cr);
+    tracePath(cr, lines_[i]);
+  }
+}
+
+Canvas Outlines::landMask(int width, int height, int scale) const {
+  Canvas mask(width, height, scale);
+  mask.setColour(rgb(0xffffff));
+  // Added up, so that no seam shows where two countries share an edge pixel.
+  cairo_set_operator(mask.cr(), CAIRO_OPERATOR_ADD);
+  for (const Country& country : world_.countries) {
+    traceCountry(mask.cr(), country);
+    cairo_fill(mask.cr());
+  }
+  mask.flush();
+  return mask;
+}
 
 void drawMap(const Canvas& canvas, const World& world, const Projection& projection,
              const MapStyle& style) {

@@ -31,8 +31,25 @@ struct MapStyle {
   Colour coast, border, water;
   Colour graticule;
   double graticuleAlpha = 0.25;
+  int graticuleStep = 5;  // degrees
   double lineWidth = 1;   // factor on all lines
   int smallestRiver = 3;  // draw rivers up to this weight
+};
+
+// The outlines of the world in the pixels of one picture.
+class Outlines {
+ public:
+  Outlines(const World& world, const Projection& projection);
+
+  void traceCountry(cairo_t* cr, const Country& country) const;
+  void traceArcs(cairo_t* cr, ArcKind kind) const;
+  const Line& line(std::size_t arc) const { return lines_[arc]; }
+  // Opaque where there is land.
+  Canvas landMask(int width, int height, int scale) const;
+
+ private:
+  const World& world_;
+  std::vector<Line> lines_;
 };
 
 void drawMap(const Canvas& canvas, const World& world, const Projection& projection,

@@ -1,8 +1,10 @@
 // Makes the maps of the game:
 //   mappa --dati FOLDER --tipo tabellone|prova|ordinamento|europa [--scala N] [--qualita N]
 //         --uscita FILE.bmp|.jpg|.png
+//   mappa --dati FOLDER --tipo citta --casella 0..99 --parti FOLDER ... the same
 #include <charconv>
 #include <exception>
+#include <functional>
 #include <iostream>
 #include <map>
 #include <string>
@@ -25,25 +27,32 @@ int numberFrom(const std::map<std::string, std::string>& options, const std::str
   return value;
 }
 
+void require(const std::map<std::string, std::string>& options, const std::string& key) {
+  if (!options.contains(key)) throw mappa::DataError(key + " is missing.");
+}
+
 void run(int count, char** words) {
   std::map<std::string, std::string> options;
   for (int i = 1; i < count; i += 2) {
     const std::string key = words[i];
     if (key != "--dati" && key != "--tipo" && key != "--scala" && key != "--qualita" &&
-        key != "--uscita") {
+        key != "--uscita" && key != "--casella" && key != "--parti") {
       throw mappa::DataError("Unknown option \"" + key + "\".");
     }
     if (i + 1 == count) throw mappa::DataError(key + " needs a value.");
     options[key] = words[i + 1];
   }
-  for (const char* key : {"--dati", "--tipo", "--uscita"}) {
-    if (!options.contains(key)) throw mappa::DataError(std::string(key) + " is missing.");
-  }
-  using Painter = mappa::Canvas (*)(const mappa::World&, int);
-  const std::map<std::string, Painter> painters{{"tabellone", mappa::boardPicture},
-                                                {"prova", mappa::trialPicture},
-                                                {"ordinamento", mappa::orderingPicture},
-                                                {"europa", mappa::puzzlePicture}};
+  for (const char* key : {"--dati", "--tipo", "--uscita"}) require(options, key);
+  using Painter = std::function<mappa::Canvas(const mappa::World&, int)>;
+  std::map<std::string, Painter> painters{{"tabellone", mappa::boardPicture},
+                                          {"prova", mappa::trialPicture},
+                                          {"ordinamento", mappa::orderingPicture},
+                                          {"europa", mappa::puzzlePicture}};
+  painters["citta"] = [&](const mappa::World& world, int scale) {
+    for (const char* key : {"--casella", "--parti"}) require(options, key);
+    return mappa::cityPicture(world, numberFrom(options, "--casella", 0, 0, 99), options["--parti"],
+                              scale);
+  };
   const auto painter = painters.find(options["--tipo"]);
   if (painter == painters.end()) {
     throw mappa::DataError("There is no picture of the kind \"" + options["--tipo"] + "\".");

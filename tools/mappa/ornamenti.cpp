@@ -172,6 +172,28 @@ void drawMargin(const Canvas& page) {
   }
 }
 
+void drawRim(const Canvas& page, Colour dark) {
+  constexpr double kBar = 20, kDepth = 5;
+  cairo_t* cr = page.cr();
+  const double w = page.width(), h = page.height();
+  const auto bars = [&](double x, double y, double dx, double dy, double length) {
+    for (int i = 0; i * kBar < length; ++i) {
+      page.setColour(i % 2 == 0 ? dark : kPaper);
+      cairo_rectangle(cr, x + i * kBar * dx, y + i * kBar * dy, dx * kBar + dy * kDepth,
+                      dy * kBar + dx * kDepth);
+      cairo_fill(cr);
+    }
+  };
+  bars(0, 0, 1, 0, w);
+  bars(0, h - kDepth, 1, 0, w);
+  bars(0, 0, 0, 1, h);
+  bars(w - kDepth, 0, 0, 1, h);
+  page.setColour(dark);
+  cairo_set_line_width(cr, 1);
+  cairo_rectangle(cr, kDepth + 0.5, kDepth + 0.5, w - 2 * kDepth - 1, h - 2 * kDepth - 1);
+  cairo_stroke(cr);
+}
+
 void drawInset(const Canvas& page, Box box, const World& world, const Projection& projection,
                const MapStyle& style) {
   constexpr double kRadius = 5;

@@ -30,6 +30,9 @@ void drawShip(const Canvas& canvas, Point keel, double size, Colour ink, Colour 
 // The margin of the page with a fine line.
 void drawMargin(const Canvas& page);
 
+// The rim of an old map: light and dark bars between two lines.
+void drawRim(const Canvas& page, Colour dark);
+
 // A place that lies outside the page, shown in a frame of its own.
 void drawInset(const Canvas& page, Box box, const World& world, const Projection& projection,
                const MapStyle& style);

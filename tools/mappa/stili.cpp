@@ -44,4 +44,35 @@ MapStyle politicalStyle() {
   return style;
 }
 
+MapStyle landscapeStyle() {
+  MapStyle style = politicalStyle();
+  style.sea = {{rgb(0xa9dcec), 5},
+               {rgb(0x8accE4), 13},
+               {rgb(0x6fb9d9), 27},
+               {rgb(0x58a4cb), 52},
+               {rgb(0x4a93bd), 1e9}};
+  style.land = {{0, rgb(0xb5cf86)},    {140, rgb(0xc6d68c)},  {300, rgb(0xd9d98f)},
+                {600, rgb(0xe3cf86)},  {1000, rgb(0xd4ae71)}, {1600, rgb(0xb98d62)},
+                {2300, rgb(0xa07a62)}, {2700, rgb(0xc8bcb0)}, {3100, rgb(0xfaf8f4)}};
+  style.tintStrength = 0.3;
+  style.ribbon = 0.3;
+  style.neutralStrength = 0.45;
+  style.reliefStrength = 1;
+  style.lineWidth = 1.7;
+  style.smallestRiver = 3;
+  style.graticuleStep = 1;
+  return style;
+}
+
+MapStyle stampStyle() {
+  MapStyle style = politicalStyle();
+  style.sea = {{rgb(0x9fd3ea), 1.5}, {rgb(0x72b1d2), 1e9}};
+  style.reliefStrength = 0.3;
+  style.ribbon = 0;
+  style.lineWidth = 0.45;
+  style.smallestRiver = 0;
+  style.graticuleAlpha = 0;
+  return style;
+}
+
 }  // namespace mappa

@@ -9,5 +9,9 @@ namespace mappa {
 MapStyle atlasStyle();
 // Strong colours by country, so that each piece of the puzzle can be told from the others.
 MapStyle politicalStyle();
+// A close view of a landscape.
+MapStyle landscapeStyle();
+// For maps of the size of a stamp.
+MapStyle stampStyle();
 
 }  // namespace mappa

@@ -77,41 +77,36 @@ int Gioco::Gioca() {
   return codice;
 }
 
-void Gioco::MostraModale(Schermata schermata) {
+std::unique_ptr<platform::Form> Gioco::Crea(Schermata schermata) {
   switch (schermata) {
+    case Schermata::Dadi:
+      return std::make_unique<Dadi>(ambiente_);
     case Schermata::FormMessaggi:
-      FormMessaggi(ambiente_).ShowModal();
-      break;
+      return std::make_unique<FormMessaggi>(ambiente_);
     case Schermata::FormSovrapposizioni: {
-      FormSovrapposizioni form(ambiente_);
-      form.Load();
-      form.Label2.SetCaption(tabellone_->label2());
-      form.Label3.SetCaption(tabellone_->label3());
-      form.ShowModal();
-      break;
+      auto form = std::make_unique<FormSovrapposizioni>(ambiente_);
+      form->Load();
+      form->Label2.SetCaption(tabellone_->label2());
+      form->Label3.SetCaption(tabellone_->label3());
+      return form;
     }
     case Schermata::FormBanconote:
-      FormBanconote(ambiente_).ShowModal();
-      break;
+      return std::make_unique<FormBanconote>(ambiente_);
     case Schermata::FormBonus:
-      FormBonus(ambiente_).ShowModal();
-      break;
+      return std::make_unique<FormBonus>(ambiente_);
     case Schermata::FormCarte2Items:
-      FormCarte2Items(ambiente_).ShowModal();
-      break;
+      return std::make_unique<FormCarte2Items>(ambiente_);
     case Schermata::FormRotazioneCarta:
-      FormRotazioneCarta(ambiente_).ShowModal();
-      break;
+      return std::make_unique<FormRotazioneCarta>(ambiente_);
     default:
-      Segnaposto(ambiente_, schermata).ShowModal();
+      return std::make_unique<Segnaposto>(ambiente_, schermata);
   }
 }
 
 void Gioco::MostraNonModale(Schermata schermata) {
-  if (schermata != Schermata::Dadi) return;
-  auto dadi = std::make_unique<Dadi>(ambiente_);
-  dadi->Show();
-  screen_.Own(std::move(dadi));
+  auto form = Crea(schermata);
+  form->Show();
+  screen_.Own(std::move(form));
 }
 
 }  // namespace girovia

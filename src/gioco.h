@@ -1,7 +1,6 @@
 // The whole game, put together over a host: the forms behind the rules' interfaces.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -31,18 +30,22 @@ class Gioco : private Schermi, private Suoni, private Attese, private Caso {
   // is told on the screen, and then in one line on stderr. The program's exit code.
   int Gioca();
 
+  // The two halves of it, for whoever looks at single screens: the backdrop and the board alone,
+  // and the form of a screen for one opening over them, not yet shown.
+  void Apri();
+  std::unique_ptr<platform::Form> Crea(Schermata schermata);
+
   platform::Screen& screen() { return screen_; }
   FormGirovia* tabellone() { return tabellone_.get(); }
 
  private:
-  void MostraModale(Schermata) override;
+  void MostraModale(Schermata schermata) override { Crea(schermata)->ShowModal(); }
   void MostraNonModale(Schermata) override;
   void FineProgramma() override { screen_.EndProgram(); }
   void SuonoAsync(std::string_view nome) override { suoni_.PlayAsync(std::string(nome)); }
   void SuonoSync(std::string_view nome) override { suoni_.PlaySync(std::string(nome)); }
   void Pausa04() override { screen_.Wait(400); }
   double Rnd() override { return orologio_.Draw(); }
-  void Apri();
 
   platform::Screen screen_;
   platform::Sounds suoni_;

@@ -1,0 +1,152 @@
+// Contact sheets, to look at everything at once.
+//
+//   provini immagini CARTELLA SCALA USCITA.png     all pictures of the catalogue
+//   provini schermate CARTELLA SCALA USCITA.png    all screens, as they open in a game
+//
+// CARTELLA is the program's folder, where risorse/, Suoni/ and font/ lie.
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "content/catalogo.h"
+#include "core/mod_Girovia.h"
+#include "core/mod_Messaggi.h"
+#include "gioco.h"
+#include "platform/headless/headless_host.h"
+
+namespace {
+
+using namespace girovia;
+using platform::Rect;
+using platform::Surface;
+
+const platform::Font kDidascalia{"Verdana", 7.5, false, false};
+
+struct Provino {
+  std::string nome;
+  int larghezza, altezza;  // of the picture, logical
+  std::function<void(Surface&, const Rect&)> disegna;
+};
+
+// Cells of one size in rows, each with its name below. Nothing is shown larger than it is.
+Surface Foglio(const std::vector<Provino>& provini, int scala, int lato, int colonne) {
+  constexpr int kBordo = 6, kNome = 14;
+  const int righe = (int(provini.size()) + colonne - 1) / colonne;
+  const int passoX = lato + 2 * kBordo, passoY = lato * 3 / 4 + kNome + 2 * kBordo;
+  Surface foglio(colonne * passoX, righe * passoY, scala, 0x606060);
+  for (std::size_t i = 0; i < provini.size(); ++i) {
+    const Provino& p = provini[i];
+    const double x = double(int(i) % colonne * passoX + kBordo);
+    const double y = double(int(i) / colonne * passoY + kBordo);
+    const double quanto =
+        std::min({1.0, double(lato) / p.larghezza, double(lato) * 0.75 / p.altezza});
+    p.disegna(foglio, {x, y, p.larghezza * quanto, p.altezza * quanto});
+    foglio.DrawText({x, y + lato * 0.75, double(lato), kNome}, p.nome,
+                    {kDidascalia, platform::colors::kWhite, platform::Align::Left, false});
+  }
+  return foglio;
+}
+
+std::vector<Provino> DelCatalogo(const std::string& cartella) {
+  std::vector<Provino> provini;
+  for (const VoceCatalogo& voce : Catalogo()) {
+    int errore = 0;
+    const auto picture = platform::Picture::Load(cartella + "/" + PercorsoFile(voce), errore);
+    provini.push_back({PercorsoFile(voce) + (picture ? "" : " MANCA"), voce.larghezza, voce.altezza,
+                       [picture](Surface& foglio, const Rect& r) {
+                         if (picture)
+                           picture->Draw(foglio, r);
+                         else
+                           foglio.FillRect(r, platform::colors::kRed);
+                       }});
+  }
+  return provini;
+}
+
+constexpr std::pair<Schermata, const char*> kSchermate[] = {
+    {Schermata::Dadi, "Dadi"},
+    {Schermata::FormBanconote, "FormBanconote"},
+    {Schermata::FormBonus, "FormBonus"},
+    {Schermata::FormCarte2Items, "FormCarte2Items"},
+    {Schermata::FormMessaggi, "FormMessaggi"},
+    {Schermata::FormRotazioneCarta, "FormRotazioneCarta"},
+    {Schermata::FormSovrapposizioni, "FormSovrapposizioni"},
+};
+
+// Opens each screen over the board as the rules would, and looks at it after a moment.
+std::vector<Provino> DelGioco(const std::string& cartella, int scala) {
+  constexpr std::int64_t kSguardo = 1'500'000;
+  platform::HeadlessHost host({800 * scala, 600 * scala});
+  Gioco gioco(host, {.cartella = cartella});
+  std::vector<Provino> provini;
+  std::string nome = "FormGirovia";
+  std::int64_t quando = 0;
+  bool scattata = false;
+  const auto guarda = [&] {
+    if (scattata || host.NowMicros() < quando) return;
+    scattata = true;
+    const auto foto = std::make_shared<Surface>(host.Shot());
+    provini.push_back(
+        {nome, 800, 600, [foto](Surface& foglio, const Rect& r) {
+           foglio.StretchBlt(r, *foto, {0, 0, double(foto->width()), double(foto->height())});
+         }});
+  };
+  host.OnBlocked = guarda;
+  gioco.Apri();
+  gioco.screen().Wait(1);
+  guarda();
+
+  using namespace mod_Girovia;
+  Dado = 8;
+  Pos[1] = 3;
+  Pos[2] = 28;
+  gioco.tabellone()->PreparaSovrapposizioni("Pago 5 euro e vado a Dniepropetrovsk",
+                                            "Non pago niente e torno a S.Pietroburgo");
+  for (const auto& [schermata, suo] : kSchermate) {
+    nome = suo;
+    Giocatore = 3 - std::max(Giocatore, 1);
+    mod_Messaggi::ColoreCornice = Colore[Giocatore];
+    mod_Messaggi::IndiceCarte2 = Pos[Giocatore];
+    mod_Messaggi::Messaggio = schermata == Schermata::FormBanconote ? "Vinci 8 euro"
+                              : schermata == Schermata::FormCarte2Items
+                                  ? "Se sbagli restituisci 8 euro e torni a Dniepropetrovsk"
+                              : schermata == Schermata::FormSovrapposizioni
+                                  ? "Saragozza è già occupata.\r\nCosa vuoi fare?"
+                                  : "Vuoi uscire dal gioco?";
+    scattata = false;
+    quando = host.NowMicros() + kSguardo;
+    const auto form = gioco.Crea(schermata);
+    host.OnIdle = [&] {
+      guarda();
+      if (!scattata) return;
+      form->Unload();
+      // Wakes the loop, which then finds the form gone.
+      host.Queue({platform::EventKind::MouseLeave, 0, 0, platform::MouseButton::Left});
+    };
+    form->ShowModal();
+  }
+  return provini;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::string che = argc == 5 ? argv[1] : "";
+  const int scala = argc == 5 ? std::atoi(argv[3]) : 0;
+  if ((che != "immagini" && che != "schermate") || scala < 1 || scala > 4) {
+    std::fprintf(stderr, "uso: provini immagini|schermate CARTELLA SCALA(1-4) USCITA.png\n");
+    return 2;
+  }
+  platform::SetFontFolder(std::string(argv[2]) + "/font");
+  const Surface foglio = che == "immagini" ? Foglio(DelCatalogo(argv[2]), scala, 160, 12)
+                                           : Foglio(DelGioco(argv[2], scala), scala, 400, 4);
+  if (!platform::SavePng(foglio, argv[4])) {
+    std::fprintf(stderr, "provini: non posso scrivere %s\n", argv[4]);
+    return 1;
+  }
+  return 0;
+}

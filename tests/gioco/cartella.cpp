@@ -1,0 +1,46 @@
+#include "cartella.h"
+
+#include <stdlib.h>
+
+#include <fstream>
+#include <stdexcept>
+
+#include "content/catalogo.h"
+
+namespace girovia {
+
+namespace fs = std::filesystem;
+
+Cartella::Cartella() {
+  std::string modello = (fs::temp_directory_path() / "gioco_test.XXXXXX").string();
+  if (!mkdtemp(modello.data())) throw std::runtime_error("no temporary folder");
+  radice_ = modello;
+  for (const char* nome : {"risorse", "Suoni", "font"})
+    for (const auto& voce : fs::recursive_directory_iterator(fs::path(PROGRAMMA) / nome)) {
+      if (voce.is_directory()) continue;
+      const fs::path qui = radice_ / fs::relative(voce.path(), PROGRAMMA);
+      fs::create_directories(qui.parent_path());
+      fs::create_symlink(voce.path(), qui);
+    }
+  // A city that is not drawn yet borrows the map of Europe, so that it can be met in a game.
+  for (const VoceCatalogo& voce : Catalogo())
+    if (const fs::path qui = radice_ / PercorsoFile(voce);
+        voce.tipo == Tipo::Jpeg && !fs::exists(qui))
+      fs::create_symlink(fs::path(PROGRAMMA) / PercorsoFile(*TrovaVoce(Tipo::Jpeg, 500)), qui);
+}
+
+Cartella::~Cartella() {
+  std::error_code error;
+  fs::remove_all(radice_, error);
+}
+
+void Cartella::Togli(const std::string& file) {
+  if (fs::remove_all(radice_ / file) == 0) throw std::runtime_error("no " + file + " to take away");
+}
+
+void Cartella::Riscrivi(const std::string& file, const std::string& contenuto) {
+  Togli(file);
+  std::ofstream(radice_ / file, std::ios::binary) << contenuto;
+}
+
+}  // namespace girovia

@@ -1,0 +1,25 @@
+// A program folder of links to the built one, in which a test may take files away or break them.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace girovia {
+
+class Cartella {
+ public:
+  Cartella();
+  ~Cartella();
+  Cartella(const Cartella&) = delete;
+  Cartella& operator=(const Cartella&) = delete;
+
+  std::string percorso() const { return radice_.string(); }
+  // `file` is relative to the folder; a folder is taken away with all that lies in it.
+  void Togli(const std::string& file);
+  void Riscrivi(const std::string& file, const std::string& contenuto);
+
+ private:
+  std::filesystem::path radice_;
+};
+
+}  // namespace girovia

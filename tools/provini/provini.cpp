@@ -119,6 +119,7 @@ std::vector<Provino> DelGioco(const std::string& cartella, int scala) {
                                   : "Vuoi uscire dal gioco?";
     scattata = false;
     quando = host.NowMicros() + kSguardo;
+    RitornoProva = Vero;  // so that no turn follows the dice
     const auto form = gioco.Crea(schermata);
     host.OnIdle = [&] {
       guarda();

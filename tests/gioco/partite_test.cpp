@@ -30,6 +30,17 @@ std::vector<std::string> Partite() {
   return nomi;
 }
 
+// The first line that differs says more than two whole games.
+void Confronta(const std::string& avuto, const fs::path& atteso) {
+  std::istringstream a(LeggiFile(atteso)), b(avuto);
+  std::string attesa, avuta;
+  for (int riga = 1; std::getline(a, attesa); ++riga) {
+    std::getline(b, avuta);
+    ASSERT_EQ(avuta, attesa) << atteso.filename() << " line " << riga;
+  }
+  EXPECT_FALSE(std::getline(b, avuta)) << "more than recorded: " << avuta;
+}
+
 class Partita : public testing::TestWithParam<std::string> {};
 
 TEST_P(Partita, GoesAsRecorded) {
@@ -47,18 +58,22 @@ TEST_P(Partita, GoesAsRecorded) {
     std::ofstream(atteso) << verbale;
     return;
   }
-  // The first line that differs says more than two whole games.
-  std::istringstream a(LeggiFile(atteso)), b(verbale);
-  std::string attesa, avuta;
-  for (int riga = 1; std::getline(a, attesa); ++riga) {
-    std::getline(b, avuta);
-    ASSERT_EQ(avuta, attesa) << atteso.filename() << " line " << riga;
-  }
-  EXPECT_FALSE(std::getline(b, avuta)) << "more than recorded: " << avuta;
+  Confronta(verbale, atteso);
 }
 
 INSTANTIATE_TEST_SUITE_P(Tutte, Partita, testing::ValuesIn(Partite()),
                          [](const auto& partita) { return partita.param; });
+
+// Clicks made while the dice roll, a card turns, money is counted and the route grows are lost, and
+// the game is the same without them.
+TEST(Partite, ImpatientClicksDoNothing) {
+  const Cartella cartella;
+  for (const char* nome : {"sorpasso", "sorpresa"}) {
+    const fs::path copione = fs::path(PROVE) / "partite" / (std::string(nome) + ".txt");
+    Confronta(Registra(LeggiFile(copione), cartella.percorso(), true),
+              fs::path(copione).replace_extension(".atteso"));
+  }
+}
 
 // A script that does not fit its game is told, and where.
 TEST(Registratore, SaysWhereScriptAndGamePart) {

@@ -121,9 +121,10 @@ std::deque<Istruzione> Leggi(const std::string& copione) {
 
 class Registratore : public Caso {
  public:
-  Registratore(const std::string& copione, const std::string& cartella)
+  Registratore(const std::string& copione, const std::string& cartella, bool impaziente)
       : istruzioni_(Leggi(copione)), gioco_(host_, {cartella, 1, this}) {
     host_.OnIdle = [this] { Inattivo(); };
+    if (impaziente) host_.OnBlocked = [this] { NonAspetta(); };
     gioco_.screen().OnSound = [this](const std::string& nome) { Scrivi("suono " + nome); };
     gioco_.screen().OnForm = [this](const Form& form) { Avanti(form); };
   }
@@ -231,6 +232,17 @@ class Registratore : public Caso {
     }
   }
 
+  // Somewhere on the screen, and half the time a press that is not let go.
+  void NonAspetta() {
+    if (host_.NowMicros() == ultimoClic_) return;
+    ultimoClic_ = host_.NowMicros();
+    host_.Click({Uniforme() * 800, Uniforme() * 600},
+                Uniforme() < 0.2 ? platform::MouseButton::Right : platform::MouseButton::Left);
+    if (Uniforme() < 0.5)
+      host_.Queue({platform::EventKind::MouseDown, int(Uniforme() * 800), int(Uniforme() * 600),
+                   platform::MouseButton::Left});
+  }
+
   static platform::Point Mezzo(const Control& controllo) {
     const platform::Rect r = controllo.InForm(controllo.place());
     return {r.left + r.width / 2, r.top + r.height / 2};
@@ -319,6 +331,7 @@ class Registratore : public Caso {
   std::vector<Riga> righe_;
   std::string stato_[3];
   std::int64_t attesa_ = -1;
+  std::int64_t ultimoClic_ = -1;
   bool automatico_ = false;
   std::mt19937 generatore_;
   platform::HeadlessHost host_{{800, 600}};
@@ -327,8 +340,8 @@ class Registratore : public Caso {
 
 }  // namespace
 
-std::string Registra(const std::string& copione, const std::string& cartella) {
-  return Registratore(copione, cartella).Gioca();
+std::string Registra(const std::string& copione, const std::string& cartella, bool impaziente) {
+  return Registratore(copione, cartella, impaziente).Gioca();
 }
 
 }  // namespace girovia

@@ -28,7 +28,9 @@ struct ErroreCopione : std::runtime_error {
 };
 
 // The record of the game, one line an event: virtual milliseconds and what happened. Throws
-// ErroreCopione where game and script part.
-std::string Registra(const std::string& copione, const std::string& cartella);
+// ErroreCopione where game and script part. An impatient player clicks about during all waits,
+// which should make no difference.
+std::string Registra(const std::string& copione, const std::string& cartella,
+                     bool impaziente = false);
 
 }  // namespace girovia

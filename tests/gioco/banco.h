@@ -1,0 +1,58 @@
+// A running game on which a test may try single screens and moments: it starts, does what the test
+// wants when the board first waits for a click, and is ended.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+
+#include "gioco.h"
+#include "platform/headless/headless_host.h"
+
+namespace girovia {
+
+class Banco : public Caso {
+ public:
+  explicit Banco(int scala = 1, const std::string& cartella = PROGRAMMA)
+      : host({800 * scala, 600 * scala}), gioco(host, {cartella, scala, this}) {}
+
+  // Each step runs when the game waits for a click; after the last one the window is closed.
+  void Passi(std::deque<std::function<void()>> passi) {
+    host.OnIdle = [this, passi = std::move(passi)]() mutable {
+      if (passi.empty()) {
+        host.Queue({platform::EventKind::Quit, 0, 0, platform::MouseButton::Left});
+        return;
+      }
+      const auto passo = std::move(passi.front());
+      passi.pop_front();
+      passo();
+    };
+    codice = gioco.Gioca();
+  }
+
+  platform::Form& davanti() { return *gioco.screen().top(); }
+  void Clicca(const platform::Control& controllo,
+              platform::MouseButton bottone = platform::MouseButton::Left) {
+    const platform::Rect r = controllo.InForm(controllo.place());
+    const platform::Rect f = controllo.form()->PlaneRect();
+    host.Click(
+        gioco.screen().ToWindow({f.left + r.left + r.width / 2, f.top + r.top + r.height / 2}),
+        bottone);
+  }
+
+  platform::HeadlessHost host;
+  std::deque<double> numeri;  // the next draws; where there is none, 0
+  Gioco gioco;
+  int codice = -1;
+
+ private:
+  double Rnd() override {
+    if (numeri.empty()) return 0;
+    const double u = numeri.front();
+    numeri.pop_front();
+    return u;
+  }
+};
+
+}  // namespace girovia

@@ -119,11 +119,12 @@ std::vector<Provino> DelGioco(const std::string& cartella, int scala) {
                                   : "Vuoi uscire dal gioco?";
     scattata = false;
     quando = host.NowMicros() + kSguardo;
-    RitornoProva = Vero;  // so that no turn follows the dice
+    RitornoProva = Vero;  // so that no turn follows, here and at the end
     const auto form = gioco.Crea(schermata);
     host.OnIdle = [&] {
       guarda();
       if (!scattata) return;
+      RitornoProva = Vero;
       form->Unload();
       // Wakes the loop, which then finds the form gone.
       host.Queue({platform::EventKind::MouseLeave, 0, 0, platform::MouseButton::Left});

@@ -200,8 +200,15 @@ TEST_F(Mappa, TellsInOneSentenceWhatIsWrong) {
   }
   for (const char* options : {"--dati " DATI " --tipo carta --uscita x.bmp", "--scala", "--dati x",
                               "--dati " DATI " --tipo europa --scala 99 --uscita x.bmp",
-                              "--dati " DATI " --tipo europa --uscita x.gif"}) {
+                              "--dati " DATI " --tipo europa --uscita x.gif",
+                              "--dati " DATI " --tipo citta --casella 1 --uscita x.bmp"}) {
     EXPECT_EQ(run(options), 1) << options;
+  }
+  for (const char* square : {"100", "-1", "Roma"}) {
+    EXPECT_EQ(run(std::string("--dati " DATI " --parti " PARTI " --tipo citta --uscita x.bmp") +
+                  " --casella " + square),
+              1);
+    EXPECT_EQ(contents(errors()), "mappa: --casella takes a number from 0 to 99.\n");
   }
 }
 

@@ -44,6 +44,7 @@ class MapPainter {
     canvas_.flush();
     for (int py = 0; py < sea.height; ++py) {
       for (int px = 0; px < sea.width; ++px) {
+        if (mask.row(py)[px * 4 + 3] == 255) continue;  // the land will cover it
         const double x = double(px) / k, y = double(py) / k;
         const double near = double(distance.at(px, py)) / k;
         const double far = open.smooth(x - 0.5, y - 0.5);
@@ -163,9 +164,11 @@ class MapPainter {
         if (alpha == 0) continue;
         Colour c = landColour(height.at(x, y));
         const std::uint8_t* tint = tints.row(y) + static_cast<std::ptrdiff_t>(x) * 4;
-        const double through = 1 - tint[3] / 255.0;
-        c = {c.r * through + tint[2] / 255.0, c.g * through + tint[1] / 255.0,
-             c.b * through + tint[0] / 255.0};
+        const double kept =
+            (1 - style_.tintFade * std::clamp((height.at(x, y) - 500) / 1600.0, 0.0, 1.0)) / 255;
+        const double through = 1 - tint[3] * kept;
+        c = {c.r * through + tint[2] * kept, c.g * through + tint[1] * kept,
+             c.b * through + tint[0] * kept};
         const double shade = light.at(x, y) * style_.reliefStrength;
         // Shadows lean to blue and lights to yellow, as painted relief does.
         c = shade < 0 ? mix(c, {c.r * 0.34, c.g * 0.35, c.b * 0.45}, std::min(-shade * 1.5, 0.85))

@@ -25,6 +25,7 @@ struct MapStyle {
   std::vector<Step> land;
   std::array<Colour, 6> tints;  // by the tint of the country; 0: outside the game
   double tintStrength = 0.3;
+  double tintFade = 0;  // how much of the tint is gone on the mountains
   double ribbon = 0.3;  // strength of the band of colour inside a country's borders
   double neutralStrength = 0.6;
   double reliefStrength = 0.9;

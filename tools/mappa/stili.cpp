@@ -51,12 +51,16 @@ MapStyle landscapeStyle() {
                {rgb(0x6fb9d9), 27},
                {rgb(0x58a4cb), 52},
                {rgb(0x4a93bd), 1e9}};
-  style.land = {{0, rgb(0xb5cf86)},    {140, rgb(0xc6d68c)},  {300, rgb(0xd9d98f)},
-                {600, rgb(0xe3cf86)},  {1000, rgb(0xd4ae71)}, {1600, rgb(0xb98d62)},
+  style.land = {{0, rgb(0xcfe0a2)},    {140, rgb(0xd6e2a4)},  {300, rgb(0xe0e0a2)},
+                {600, rgb(0xe3d08c)},  {1000, rgb(0xd4ae71)}, {1600, rgb(0xb98d62)},
                 {2300, rgb(0xa07a62)}, {2700, rgb(0xc8bcb0)}, {3100, rgb(0xfaf8f4)}};
-  style.tintStrength = 0.3;
+  // On green ground the violet of the other maps would turn to mud.
+  style.tints = {rgb(0xe0d3b4), rgb(0xf6938a), rgb(0xfbdd5c),
+                 rgb(0x83d06a), rgb(0xfbab55), rgb(0xe888ea)};
+  style.tintStrength = 0.46;
+  style.tintFade = 0.65;
   style.ribbon = 0.3;
-  style.neutralStrength = 0.45;
+  style.neutralStrength = 0.55;
   style.reliefStrength = 1;
   style.lineWidth = 1.7;
   style.smallestRiver = 3;

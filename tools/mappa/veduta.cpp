@@ -3,6 +3,7 @@
 // pin. It bears no names, since the game asks for them.
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <random>
 #include <string>
 #include <utility>
@@ -19,7 +20,8 @@ namespace {
 
 constexpr double kPixelsPerDegree = 88;  // 4.4 degrees from one side to the other, some 600 km
 constexpr double kTile = 120;            // side of the tiles into which the puzzle cuts the page
-constexpr double kTooHigh = 1500;        // metres above which nothing grows
+constexpr double kTreeLine = 1700;       // metres
+constexpr double kTooHigh = 2000;        // metres above which nothing stands
 
 // A drawing among the shared parts: its factor, and where its foot lies in it.
 struct Figure {
@@ -37,6 +39,10 @@ constexpr Figure kOnLand[] = {
     {"vedute/covone", 0.36, {0, -8}},
     {"vedute/vigna", 0.4, {}},
     {"natura/casa", 0.52, {}},
+    {"vedute/fattoria", 0.38, {}},
+    {"vedute/girasoli", 0.36, {}},
+    {"vedute/tenda", 0.36, {}},
+    {"vedute/locomotiva", 0.34, {}},
 };
 constexpr Figure kAtSea[] = {
     {"vedute/veliero", 0.34, {0, -30}}, {"vedute/balena", 0.32, {0, -14}},
@@ -57,7 +63,8 @@ class CityPage {
         page_(square == 67 ? 479 : 480, square == 72 ? 356 : 360, scale),
         pin_{page_.width() / 2.0, page_.height() / 2.0 + 8},
         projection_(city_.place, pin_, kPixelsPerDegree),
-        land_(Outlines(world, projection_).landMask(page_.width(), page_.height(), 1)),
+        outlines_(world, projection_),
+        land_(outlines_.landMask(page_.width(), page_.height(), 1)),
         taken_(page_.width(), page_.height(), 1),
         heights_(coarseHeights()),
         random_(static_cast<unsigned>(square) + 1) {}
@@ -66,6 +73,7 @@ class CityPage {
     drawMap(page_, world_, projection_, landscapeStyle());
     reserve();
     placeStamp();
+    placeRose();
     placeLargeFigures();
     placeSmallFigures();
     paintFigures(parts);
@@ -95,9 +103,8 @@ class CityPage {
   // Keeps the lines of the map, the rim and the pin free of figures.
   void reserve() {
     cairo_t* cr = taken_.cr();
-    const Outlines outlines(world_, projection_);
-    outlines.traceArcs(cr, ArcKind::coast);
-    outlines.traceArcs(cr, ArcKind::border);
+    outlines_.traceArcs(cr, ArcKind::coast);
+    outlines_.traceArcs(cr, ArcKind::border);
     for (const River& river : world_.rivers) {
       cairo_new_sub_path(cr);
       tracePath(cr, project(projection_, river.course));
@@ -161,6 +168,39 @@ class CityPage {
     take({stamp_.x - 6, stamp_.y - 6, stamp_.width + 12, stamp_.height + 12});
   }
 
+  // Somewhere at sea, if there is room.
+  void placeRose() {
+    constexpr double kRadius = 33;
+    for (int attempt = 0; attempt < 400; ++attempt) {
+      const Point at{draw01() * page_.width(), draw01() * page_.height()};
+      if (!isFree(at, kRadius + 3, false)) continue;
+      drawRose(
+          page_, at, kRadius,
+          {.dark = rgb(0x1d4f7a), .light = rgb(0xf6f2e2), .ring = rgb(0xf6f2e2), .alpha = 0.9});
+      take({at.x - kRadius, at.y - kRadius, 2 * kRadius, 2 * kRadius});
+      return;
+    }
+  }
+
+  // The sailors' lines of old charts, from the rose over all waters.
+  void drawRhumbs(Point from) const {
+    constexpr double kStep = 2;
+    cairo_t* cr = page_.cr();
+    page_.setColour(rgb(0xf6f2e2), 0.45);
+    cairo_set_line_width(cr, 0.7);
+    for (int i = 0; i < 16; ++i) {
+      const double dx = kStep * std::sin(i * std::numbers::pi / 8),
+                   dy = kStep * std::cos(i * std::numbers::pi / 8);
+      for (Point p = from; p.x >= 0 && p.y >= 0 && p.x < page_.width() && p.y < page_.height();
+           p = {p.x + dx, p.y + dy}) {
+        if (isLand(static_cast<int>(p.x), static_cast<int>(p.y))) continue;
+        cairo_move_to(cr, p.x, p.y);
+        cairo_line_to(cr, p.x + dx, p.y + dy);
+      }
+    }
+    cairo_stroke(cr);
+  }
+
   // One in each tile of the puzzle, as long as they last all different.
   void placeLargeFigures() {
     constexpr double kRadius = 15;
@@ -200,7 +240,7 @@ class CityPage {
         const double chance = draw01(), kind = draw01();
         if (isFree(at, kRadius + 4, false)) {
           if (chance < 0.2) place(kWaves, at, kRadius + 8, false);
-        } else if (isFree(at, kRadius, true) && heightAt(at) < kTooHigh) {
+        } else if (isFree(at, kRadius, true) && heightAt(at) < kTreeLine) {
           const double wood =
               noise(at.x / 55 + city_.place.lon * 9, at.y / 55 + city_.place.lat * 9);
           if (wood + 0.3 * chance > 0.25) {
@@ -280,6 +320,7 @@ class CityPage {
   Canvas page_;
   Point pin_;
   EqualAreaProjection projection_;
+  Outlines outlines_;
   Canvas land_, taken_;
   Field heights_;
   std::mt19937 random_;

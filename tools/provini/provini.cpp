@@ -2,6 +2,8 @@
 //
 //   provini immagini CARTELLA SCALA USCITA.png     all pictures of the catalogue
 //   provini schermate CARTELLA SCALA USCITA.png    all screens, as they open in a game
+//   provini inizio CARTELLA SCALA USCITA.png       the board before the first throw
+//   provini partita CARTELLA SCALA USCITA.png      the board in the middle of a game
 //
 // CARTELLA is the program's folder, where risorse/, Suoni/ and font/ lie.
 #include <algorithm>
@@ -15,6 +17,7 @@
 #include "content/catalogo.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
+#include "core/stato.h"
 #include "gioco.h"
 #include "platform/headless/headless_host.h"
 
@@ -134,18 +137,62 @@ std::vector<Provino> DelGioco(const std::string& cartella, int scala) {
   return provini;
 }
 
+// The board alone, as a person sees it: with `inCorso` after some turns of both players.
+Surface IlTabellone(const std::string& cartella, int scala, bool inCorso) {
+  platform::HeadlessHost host({800 * scala, 600 * scala});
+  Gioco gioco(host, {.cartella = cartella});
+  gioco.Apri();
+  if (inCorso) {
+    using namespace mod_Girovia;
+    FormGirovia& tabellone = *gioco.tabellone();
+    const int dove[] = {0, 47, 41};
+    tabellone.SpegniTimer();
+    tabellone.NascondiRitratti();
+    tabellone.NascondiAnnuncio();
+    tabellone.NascondiAiuto();
+    for (int p : {1, 2}) {
+      for (int i = 1; i <= dove[p]; ++i) tabellone.MostraTratto(p, i);
+      Pos[p] = dove[p];
+      Gruzzolo[p] = Euro::Centesimi(p == 1 ? 5450 : 8235);
+      tabellone.ScriviGruzzolo(p, Gruzzolo[p]);
+      tabellone.ColoraCasella(Pos[p], ValoreColore(Colore[p]));
+    }
+    tabellone.ColoraGruzzoli(0x0000FF, 0x00FF00);
+    tabellone.RefreshPrBar();
+    Giocatore = 1;
+    tabellone.AttivaTurno(1);
+    RitornoProva = Vero;  // the board comes to the front as after a turn, not as after the dice
+  }
+  int giri = 0;
+  host.OnIdle = [&] {
+    if (++giri > 4) host.Queue({platform::EventKind::Quit, 0, 0, platform::MouseButton::Left});
+  };
+  try {
+    gioco.screen().Run();
+  } catch (const platform::ProgramEnded&) {
+  }
+  return host.Shot();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const std::string che = argc == 5 ? argv[1] : "";
   const int scala = argc == 5 ? std::atoi(argv[3]) : 0;
-  if ((che != "immagini" && che != "schermate") || scala < 1 || scala > 4) {
-    std::fprintf(stderr, "uso: provini immagini|schermate CARTELLA SCALA(1-4) USCITA.png\n");
+  Surface foglio;
+  if (scala >= 1 && scala <= 4) {
+    const std::string cartella = argv[2];
+    platform::SetFontFolder(cartella + "/font");
+    if (che == "immagini") foglio = Foglio(DelCatalogo(cartella), scala, 160, 12);
+    if (che == "schermate") foglio = Foglio(DelGioco(cartella, scala), scala, 400, 4);
+    if (che == "inizio" || che == "partita")
+      foglio = IlTabellone(cartella, scala, che == "partita");
+  }
+  if (foglio.width() == 0) {
+    std::fprintf(stderr,
+                 "uso: provini immagini|schermate|inizio|partita CARTELLA SCALA(1-4) USCITA.png\n");
     return 2;
   }
-  platform::SetFontFolder(std::string(argv[2]) + "/font");
-  const Surface foglio = che == "immagini" ? Foglio(DelCatalogo(argv[2]), scala, 160, 12)
-                                           : Foglio(DelGioco(argv[2], scala), scala, 400, 4);
   if (!platform::SavePng(foglio, argv[4])) {
     std::fprintf(stderr, "provini: non posso scrivere %s\n", argv[4]);
     return 1;

@@ -86,7 +86,7 @@ class CityPage {
   struct Placed {
     Figure figure;
     Point at;
-    bool shadow;
+    bool onLand;
   };
 
   double draw01() { return static_cast<double>(random_()) / 4294967296.0; }
@@ -155,8 +155,9 @@ class CityPage {
     return true;
   }
 
-  void place(const Figure& figure, Point at, double radius, bool shadow) {
-    placed_.push_back({figure, at, shadow});
+  // The figure's middle is at `at`; on land it stands with its foot below.
+  void place(const Figure& figure, Point at, double radius, bool land) {
+    placed_.push_back({figure, {at.x, land ? at.y + radius : at.y}, land});
     take({at.x - radius, at.y - radius, 2 * radius, 2 * radius});
   }
 
@@ -174,6 +175,7 @@ class CityPage {
     for (int attempt = 0; attempt < 400; ++attempt) {
       const Point at{draw01() * page_.width(), draw01() * page_.height()};
       if (!isFree(at, kRadius + 3, false)) continue;
+      drawRhumbs(at);
       drawRose(
           page_, at, kRadius,
           {.dark = rgb(0x1d4f7a), .light = rgb(0xf6f2e2), .ring = rgb(0xf6f2e2), .alpha = 0.9});
@@ -203,7 +205,7 @@ class CityPage {
 
   // One in each tile of the puzzle, as long as they last all different.
   void placeLargeFigures() {
-    constexpr double kRadius = 15;
+    constexpr int kAttempts = 80;
     std::vector<Figure> land(std::begin(kOnLand), std::end(kOnLand)),
         sea(std::begin(kAtSea), std::end(kAtSea));
     for (auto* deck : {&land, &sea}) {
@@ -214,14 +216,15 @@ class CityPage {
     std::size_t nextLand = 0, nextSea = 0;
     for (double y = 0; y < page_.height(); y += kTile) {
       for (double x = 0; x < page_.width(); x += kTile) {
-        for (int attempt = 0; attempt < 60; ++attempt) {
-          const Point at{x + kRadius + draw01() * (kTile - 2 * kRadius),
-                         y + kRadius + draw01() * (kTile - 2 * kRadius)};
-          if (isFree(at, kRadius, false)) {
-            place(sea[nextSea++ % sea.size()], at, kRadius, false);
-          } else if (isFree(at, kRadius, true) && heightAt(at) < kTooHigh) {
-            place(land[nextLand++ % land.size()], {at.x, at.y + 12}, 0, true);
-            take({at.x - kRadius, at.y - kRadius, 2 * kRadius, 2 * kRadius});
+        for (int attempt = 0; attempt < kAttempts; ++attempt) {
+          // At first with some air around it.
+          const double radius = attempt < kAttempts / 2 ? 19 : 15;
+          const Point at{x + radius + draw01() * (kTile - 2 * radius),
+                         y + radius + draw01() * (kTile - 2 * radius)};
+          if (isFree(at, radius, false)) {
+            place(sea[nextSea++ % sea.size()], at, radius, false);
+          } else if (isFree(at, radius, true) && heightAt(at) < kTooHigh) {
+            place(land[nextLand++ % land.size()], at, radius, true);
           } else {
             continue;
           }
@@ -244,8 +247,7 @@ class CityPage {
           const double wood =
               noise(at.x / 55 + city_.place.lon * 9, at.y / 55 + city_.place.lat * 9);
           if (wood + 0.3 * chance > 0.25) {
-            place(tree(heightAt(at), kind), {at.x, at.y + 6}, 0, true);
-            take({at.x - 4, at.y - 4, 8, 8});
+            place(tree(heightAt(at), kind), at, kRadius, true);
           }
         }
       }
@@ -266,7 +268,7 @@ class CityPage {
     std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " +
                       std::to_string(page_.width()) + ' ' + std::to_string(page_.height()) + "\">";
     for (const Placed& p : placed_) {
-      if (p.shadow) svg += shadow(p);
+      if (p.onLand) svg += shadow(p);
       svg += "<parte nome=\"" + std::string(p.figure.part) + "\" scala=\"" +
              std::to_string(p.figure.scale) + "\" x=\"" +
              std::to_string(p.at.x - p.figure.foot.x * p.figure.scale) + "\" y=\"" +

@@ -26,6 +26,8 @@ enum class Schermata {
   FormSovrapposizioni,
 };
 
+inline constexpr int kNumeroSchermate = int(Schermata::FormSovrapposizioni) + 1;
+
 // The board. p is a player, i a square; MostraTratto and NascondiTratto count the segment that
 // ends on square i.
 class Tabellone {

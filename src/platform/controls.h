@@ -56,6 +56,7 @@ class Label : public Control {
   void SetForeColor(Color color);
   Color foreColor() const { return style_.color; }
   void SetFont(const Font& font);
+  double drawnPoints() const { return style_.font.points; }
   void Move(const Rect& place) override;
   bool windowed() const override { return false; }
   void Paint(Surface& surface) override;

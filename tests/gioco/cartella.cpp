@@ -5,8 +5,6 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "content/catalogo.h"
-
 namespace girovia {
 
 namespace fs = std::filesystem;
@@ -22,11 +20,6 @@ Cartella::Cartella() {
       fs::create_directories(qui.parent_path());
       fs::create_symlink(voce.path(), qui);
     }
-  // A city that is not drawn yet borrows the map of Europe, so that it can be met in a game.
-  for (const VoceCatalogo& voce : Catalogo())
-    if (const fs::path qui = radice_ / PercorsoFile(voce);
-        voce.tipo == Tipo::Jpeg && !fs::exists(qui))
-      fs::create_symlink(fs::path(PROGRAMMA) / PercorsoFile(*TrovaVoce(Tipo::Jpeg, 500)), qui);
 }
 
 Cartella::~Cartella() {
@@ -41,6 +34,11 @@ void Cartella::Togli(const std::string& file) {
 void Cartella::Riscrivi(const std::string& file, const std::string& contenuto) {
   Togli(file);
   std::ofstream(radice_ / file, std::ios::binary) << contenuto;
+}
+
+void Cartella::Sostituisci(const std::string& file, const std::string& altro) {
+  Togli(file);
+  fs::create_symlink(fs::path(PROGRAMMA) / altro, radice_ / file);
 }
 
 }  // namespace girovia

@@ -18,6 +18,8 @@ class Cartella {
   void Togli(const std::string& file);
   void Riscrivi(const std::string& file, const std::string& contenuto);
 
+  void Sostituisci(const std::string& file, const std::string& altro);
+
  private:
   std::filesystem::path radice_;
 };

@@ -8,7 +8,6 @@
 #include <fstream>
 #include <sstream>
 
-#include "cartella.h"
 #include "registratore.h"
 
 namespace girovia {
@@ -47,10 +46,9 @@ TEST_P(Partita, GoesAsRecorded) {
   const fs::path atteso = fs::path(PROVE) / "partite" / (GetParam() + ".atteso");
   fs::path copione = atteso;
   copione.replace_extension(".txt");
-  const Cartella cartella;
   std::string verbale;
   try {
-    verbale = Registra(LeggiFile(copione), cartella.percorso());
+    verbale = Registra(LeggiFile(copione), PROGRAMMA);
   } catch (const ErroreCopione& errore) {
     FAIL() << copione.filename() << ", " << errore.what();
   }
@@ -67,20 +65,18 @@ INSTANTIATE_TEST_SUITE_P(Tutte, Partita, testing::ValuesIn(Partite()),
 // Clicks made while the dice roll, a card turns, money is counted and the route grows are lost, and
 // the game is the same without them.
 TEST(Partite, ImpatientClicksDoNothing) {
-  const Cartella cartella;
   for (const char* nome : {"sorpasso", "sorpresa"}) {
     const fs::path copione = fs::path(PROVE) / "partite" / (std::string(nome) + ".txt");
-    Confronta(Registra(LeggiFile(copione), cartella.percorso(), true),
+    Confronta(Registra(LeggiFile(copione), PROGRAMMA, true),
               fs::path(copione).replace_extension(".atteso"));
   }
 }
 
 // A script that does not fit its game is told, and where.
 TEST(Registratore, SaysWhereScriptAndGamePart) {
-  const Cartella cartella;
   const auto errore = [&](const std::string& copione) -> std::string {
     try {
-      Registra(copione, cartella.percorso());
+      Registra(copione, PROGRAMMA);
     } catch (const ErroreCopione& e) {
       return e.what();
     }

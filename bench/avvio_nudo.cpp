@@ -11,8 +11,10 @@ int main(int, char**) {
   const auto start = std::chrono::steady_clock::now();
   SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   if (SDL_Init(SDL_INIT_VIDEO) != 0) return 1;
-  SDL_Window* window = SDL_CreateWindow("bare", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, 800,
-                                        600, SDL_WINDOW_FULLSCREEN_DESKTOP);
+  SDL_Rect place{0, 0, 800, 600};
+  SDL_GetDisplayBounds(0, &place);
+  SDL_Window* window =
+      SDL_CreateWindow("bare", place.x, place.y, place.w, place.h, SDL_WINDOW_FULLSCREEN_DESKTOP);
   SDL_Surface* surface = SDL_GetWindowSurface(window);
   SDL_FillRect(surface, nullptr, 0x00336699);
   SDL_UpdateWindowSurface(window);

@@ -18,6 +18,9 @@
 namespace platform {
 namespace {
 
+constexpr int kWindowWidth = 1000;
+constexpr int kWindowHeight = 750;
+
 class SdlHost : public Host {
  public:
   SdlHost(SDL_Window* window, const DesktopOptions& options) : window_(window) {
@@ -187,7 +190,7 @@ class SdlHost : public Host {
     const bool full = SDL_GetWindowFlags(window_) & SDL_WINDOW_FULLSCREEN_DESKTOP;
     SDL_SetWindowFullscreen(window_, full ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
     if (full) {
-      SDL_SetWindowSize(window_, 1000, 750);
+      SDL_SetWindowSize(window_, kWindowWidth, kWindowHeight);
       SDL_SetWindowPosition(window_, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
     }
   }
@@ -278,8 +281,11 @@ std::unique_ptr<Host> OpenDesktop(const DesktopOptions& options, std::string& wh
   }
   Uint32 flags = SDL_WINDOW_RESIZABLE;
   if (options.fullScreen) flags |= SDL_WINDOW_FULLSCREEN_DESKTOP;
-  SDL_Window* window = SDL_CreateWindow(options.title.c_str(), SDL_WINDOWPOS_CENTERED,
-                                        SDL_WINDOWPOS_CENTERED, 800, 600, flags);
+  // Made as large as it is to be: where no window manager runs nobody else would do it.
+  SDL_Rect place{SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, kWindowWidth, kWindowHeight};
+  if (options.fullScreen) SDL_GetDisplayBounds(0, &place);
+  SDL_Window* window =
+      SDL_CreateWindow(options.title.c_str(), place.x, place.y, place.w, place.h, flags);
   if (!window) {
     why = SDL_GetError();
     SDL_Quit();

@@ -44,8 +44,8 @@ void FormRotazioneCarta::Form_Activate() {
                               kTopCarta, RasterOp::SrcCopy);
   std::int64_t fine = screen().host().NowMicros();
   for (const FotogrammaCarta& fotogramma : RotazioneCarta()) {
-    // Also where the card grows: in true perspective its near edge is the taller one, and the corner
-    // of a narrower frame would stick out behind the next.
+    // Also where the card grows: in true perspective its near edge is the taller one, and the
+    // corner of a narrower frame would stick out behind the next.
     Wipe();
     Show(fotogramma);
     screen().WaitUntil(fine += kMicrosecondiPerFotogramma);

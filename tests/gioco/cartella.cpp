@@ -5,6 +5,8 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "content/catalogo.h"
+
 namespace girovia {
 
 namespace fs = std::filesystem;
@@ -36,9 +38,13 @@ void Cartella::Riscrivi(const std::string& file, const std::string& contenuto) {
   std::ofstream(radice_ / file, std::ios::binary) << contenuto;
 }
 
-void Cartella::Sostituisci(const std::string& file, const std::string& altro) {
-  Togli(file);
-  fs::create_symlink(fs::path(PROGRAMMA) / altro, radice_ / file);
+void Cartella::Alleggerisci() {
+  const fs::path stella = fs::path(PROGRAMMA) / PercorsoFile(*TrovaVoce(Tipo::Bitmap, 104));
+  for (const VoceCatalogo& voce : Catalogo()) {
+    if (voce.tipo != Tipo::Jpeg && !voce.nome.starts_with("FormRotazioneCarta")) continue;
+    Togli(PercorsoFile(voce));
+    fs::create_symlink(stella, radice_ / PercorsoFile(voce));
+  }
 }
 
 }  // namespace girovia

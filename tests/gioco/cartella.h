@@ -18,7 +18,9 @@ class Cartella {
   void Togli(const std::string& file);
   void Riscrivi(const std::string& file, const std::string& contenuto);
 
-  void Sostituisci(const std::string& file, const std::string& altro);
+  // Small pictures in the place of the photographs and the turning card, which take most of the
+  // time of a game that has no clock to wait for.
+  void Alleggerisci();
 
  private:
   std::filesystem::path radice_;

@@ -7,7 +7,6 @@
 #include "banco.h"
 #include "cartella.h"
 #include "content/atlante.h"
-#include "content/catalogo.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 #include "core/stato.h"
@@ -134,12 +133,7 @@ int CasellaDalNomePiuLungo() {
 
 class Forme : public testing::Test {
  protected:
-  // Large photographs would take most of the time.
-  Forme() {
-    for (const VoceCatalogo& voce : Catalogo())
-      if (voce.tipo == Tipo::Jpeg)
-        cartella_.Sostituisci(PercorsoFile(voce), PercorsoFile(*TrovaVoce(Tipo::Bitmap, 104)));
-  }
+  Forme() { cartella_.Alleggerisci(); }
 
   // All that is open at the start. The help lies over a square until the first throw.
   static void ControllaAperte(Banco& banco, bool solito) {

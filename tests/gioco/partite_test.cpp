@@ -8,6 +8,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "cartella.h"
 #include "registratore.h"
 
 namespace girovia {
@@ -29,6 +30,12 @@ std::vector<std::string> Partite() {
   return nomi;
 }
 
+std::string RegistraLeggera(const std::string& copione, bool impaziente = false) {
+  Cartella cartella;
+  cartella.Alleggerisci();
+  return Registra(copione, cartella.percorso(), impaziente);
+}
+
 // The first line that differs says more than two whole games.
 void Confronta(const std::string& avuto, const fs::path& atteso) {
   std::istringstream a(LeggiFile(atteso)), b(avuto);
@@ -48,7 +55,7 @@ TEST_P(Partita, GoesAsRecorded) {
   copione.replace_extension(".txt");
   std::string verbale;
   try {
-    verbale = Registra(LeggiFile(copione), PROGRAMMA);
+    verbale = RegistraLeggera(LeggiFile(copione));
   } catch (const ErroreCopione& errore) {
     FAIL() << copione.filename() << ", " << errore.what();
   }
@@ -67,7 +74,7 @@ INSTANTIATE_TEST_SUITE_P(Tutte, Partita, testing::ValuesIn(Partite()),
 TEST(Partite, ImpatientClicksDoNothing) {
   for (const char* nome : {"sorpasso", "sorpresa"}) {
     const fs::path copione = fs::path(PROVE) / "partite" / (std::string(nome) + ".txt");
-    Confronta(Registra(LeggiFile(copione), PROGRAMMA, true),
+    Confronta(RegistraLeggera(LeggiFile(copione), true),
               fs::path(copione).replace_extension(".atteso"));
   }
 }
@@ -76,7 +83,7 @@ TEST(Partite, ImpatientClicksDoNothing) {
 TEST(Registratore, SaysWhereScriptAndGamePart) {
   const auto errore = [&](const std::string& copione) -> std::string {
     try {
-      Registra(copione, PROGRAMMA);
+      RegistraLeggera(copione);
     } catch (const ErroreCopione& e) {
       return e.what();
     }

@@ -20,7 +20,7 @@ Gioco::Gioco(platform::Host& host, const Opzioni& opzioni)
     : screen_(host, opzioni.scala),
       suoni_(screen_, opzioni.cartella + "/Suoni"),
       archivio_(opzioni.cartella, "girovia"),
-      immagini_(archivio_),
+      immagini_(archivio_, screen_.scale()),
       ambiente_{.screen = screen_, .immagini = immagini_, .mani = {}} {
   platform::SetFontFolder(opzioni.cartella + "/font");
   AzzeraStato();

@@ -27,7 +27,13 @@ platform::SizedPicture cLoadResPicture::LoadResPicture(int id, std::string_view 
 }
 
 platform::SizedPicture Immagini::DiSchermata(const std::string& nome) {
-  return Carica(archivio_, TrovaSchermata(nome), nome);
+  const VoceCatalogo* voce = TrovaSchermata(nome);
+  if (voce && scala_ > 2) {
+    const std::string usuale = PercorsoFile(*voce);
+    const std::string fine = usuale.substr(0, usuale.rfind('.')) + "@4x.jpg";
+    if (archivio_.Exists(fine)) return archivio_.Load(fine, voce->larghezza, voce->altezza);
+  }
+  return Carica(archivio_, voce, nome);
 }
 
 platform::Pointer Immagini::Puntatore(int id) {

@@ -13,7 +13,9 @@ namespace girovia {
 // had throws platform::PictureError.
 class Immagini {
  public:
-  explicit Immagini(platform::PictureStore& archivio) : archivio_(archivio) {}
+  // From scale 3 on, a picture that has a file of four times its logical size beside the usual one
+  // ("...@4x.jpg") is taken from that.
+  Immagini(platform::PictureStore& archivio, int scala) : archivio_(archivio), scala_(scala) {}
   platform::SizedPicture LoadResPicture(int id);                // bitmap
   platform::SizedPicture DiSchermata(const std::string& nome);  // stored with a screen
   platform::Pointer Puntatore(int id);
@@ -21,6 +23,7 @@ class Immagini {
 
  private:
   platform::PictureStore& archivio_;
+  int scala_;
 };
 
 // Turns a JPEG resource into a picture; the kind is always "CUSTOM".

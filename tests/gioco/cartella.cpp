@@ -41,7 +41,9 @@ void Cartella::Riscrivi(const std::string& file, const std::string& contenuto) {
 void Cartella::Alleggerisci() {
   const fs::path stella = fs::path(PROGRAMMA) / PercorsoFile(*TrovaVoce(Tipo::Bitmap, 104));
   for (const VoceCatalogo& voce : Catalogo()) {
-    if (voce.tipo != Tipo::Jpeg && !voce.nome.starts_with("FormRotazioneCarta")) continue;
+    const bool grande = voce.tipo == Tipo::Jpeg || voce.nome.starts_with("FormRotazioneCarta") ||
+                        voce.nome.starts_with("Dadi.");
+    if (!grande) continue;
     Togli(PercorsoFile(voce));
     fs::create_symlink(stella, radice_ / PercorsoFile(voce));
   }

@@ -58,6 +58,9 @@ void Gioco::Apri() {
 
 int Gioco::Gioca() {
   int codice = 0;
+  // Other faces step in for the missing ones, so that the game can be played all the same.
+  if (const std::string mancanti = platform::MissingFonts(); !mancanti.empty())
+    std::fprintf(stderr, "Mancano i caratteri %s.\n", mancanti.c_str());
   try {
     try {
       Apri();

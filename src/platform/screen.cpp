@@ -27,10 +27,10 @@ Screen::Screen(Host& host, int scale) : host_(host), fixedScale_(scale) {
 Screen::~Screen() { owned_.clear(); }
 
 void Screen::Measure() {
-  const PixelSize window = host_.WindowSize();
-  fit_ = std::clamp(FitOf(window), 0.05, double(scale_));
-  planeSize_ = {int(std::lround(window.width * scale_ / fit_)),
-                int(std::lround(window.height * scale_ / fit_))};
+  window_ = host_.WindowSize();
+  fit_ = std::clamp(FitOf(window_), 0.05, double(scale_));
+  planeSize_ = {int(std::lround(window_.width * scale_ / fit_)),
+                int(std::lround(window_.height * scale_ / fit_))};
   plane_ = Surface((planeSize_.width + scale_ - 1) / scale_,
                    (planeSize_.height + scale_ - 1) / scale_, scale_, colors::kBlack);
   invalid_.assign(1, {0, 0, planeSize_.width, planeSize_.height});
@@ -256,6 +256,8 @@ bool Screen::HandleSystem(const Event& event) {
       invalid_.assign(1, {0, 0, planeSize_.width, planeSize_.height});
       return true;
     case EventKind::Resize: {
+      // A window tells its size as it opens, too: then nothing has changed.
+      if (host_.WindowSize() == window_) return true;
       Measure();
       for (Form* form : forms_) form->PlaceOnPlane();
       if (clip_) ClipCursor(clip_);

@@ -103,6 +103,7 @@ class Screen {
   int fixedScale_;
   int scale_ = 1;
   double fit_ = 1;
+  PixelSize window_;
   PixelSize planeSize_;
   Surface plane_;
   std::vector<DeviceRect> invalid_;

@@ -187,12 +187,19 @@ class SdlHost : public Host {
   }
 
   void ToggleFullScreen() {
-    const bool full = SDL_GetWindowFlags(window_) & SDL_WINDOW_FULLSCREEN_DESKTOP;
-    SDL_SetWindowFullscreen(window_, full ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
-    if (full) {
+    if (SDL_GetWindowFlags(window_) & SDL_WINDOW_FULLSCREEN_DESKTOP) {
+      SDL_SetWindowFullscreen(window_, 0);
       SDL_SetWindowSize(window_, kWindowWidth, kWindowHeight);
       SDL_SetWindowPosition(window_, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
+      return;
     }
+    // As at the start, the size is set here and not left to a window manager.
+    SDL_Rect place;
+    if (SDL_GetDisplayBounds(SDL_GetWindowDisplayIndex(window_), &place) == 0) {
+      SDL_SetWindowPosition(window_, place.x, place.y);
+      SDL_SetWindowSize(window_, place.w, place.h);
+    }
+    SDL_SetWindowFullscreen(window_, SDL_WINDOW_FULLSCREEN_DESKTOP);
   }
 
   SDL_Cursor* CursorFor(const Pointer& pointer, double scale) {

@@ -104,13 +104,13 @@ std::vector<Provino> DelGioco(const std::string& cartella, int scala) {
   guarda();
 
   using namespace mod_Girovia;
-  Dado = 8;
   Pos[1] = 3;
   Pos[2] = 28;
   gioco.tabellone()->PreparaSovrapposizioni("Pago 5 euro e vado a Dniepropetrovsk",
                                             "Non pago niente e torno a S.Pietroburgo");
   for (const auto& [schermata, suo] : kSchermate) {
     nome = suo;
+    Dado = 8;
     Giocatore = 3 - std::max(Giocatore, 1);
     mod_Messaggi::ColoreCornice = Colore[Giocatore];
     mod_Messaggi::IndiceCarte2 = Pos[Giocatore];

@@ -18,7 +18,7 @@ Cartella::Cartella() {
   for (const char* nome : {"risorse", "Suoni", "font"})
     for (const auto& voce : fs::recursive_directory_iterator(fs::path(PROGRAMMA) / nome)) {
       if (voce.is_directory()) continue;
-      const fs::path qui = radice_ / fs::relative(voce.path(), PROGRAMMA);
+      const fs::path qui = radice_ / voce.path().lexically_relative(PROGRAMMA);
       fs::create_directories(qui.parent_path());
       fs::create_symlink(voce.path(), qui);
     }

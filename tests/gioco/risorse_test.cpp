@@ -20,7 +20,7 @@ TEST(Risorse, TheFolderHoldsThePicturesOfTheCatalogueAndNoOthers) {
   std::set<std::string> attesi{"risorse/schermate/FormGirovia@4x.jpg"}, trovati;
   for (const VoceCatalogo& voce : Catalogo()) attesi.insert(PercorsoFile(voce));
   for (const auto& voce : fs::recursive_directory_iterator(fs::path(PROGRAMMA) / "risorse"))
-    if (!voce.is_directory()) trovati.insert(fs::relative(voce.path(), PROGRAMMA).string());
+    if (!voce.is_directory()) trovati.insert(voce.path().lexically_relative(PROGRAMMA).string());
   EXPECT_EQ(trovati, attesi);
 }
 

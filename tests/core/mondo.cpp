@@ -1,6 +1,5 @@
 #include "mondo.h"
 
-#include <sstream>
 #include <stdexcept>
 
 #include "core/tabellone.h"
@@ -12,35 +11,17 @@ using namespace mod_Messaggi;
 
 namespace {
 
-template <class... Pezzi>
-std::string Riga(std::string_view nome, Pezzi... pezzi) {
-  std::ostringstream riga;
-  riga << nome;
-  ((riga << ' ' << pezzi), ...);
-  return riga.str();
+std::string NomeForm(Schermata form) {
+  std::istringstream nomi(
+      "Dadi FormBanconote FormBonus FormCarte2Items FormCarte4Items FormCitta FormImprevisti "
+      "FormInfo FormMessaggi FormPremiazione FormProvaCapitali FormProvaCitta FormProvaOrdinamento "
+      "FormProvaPuzzle FormRotazioneCarta FormSovrapposizioni");
+  std::string nome;
+  for (int i = 0; i <= static_cast<int>(form); ++i) nomi >> nome;
+  return nome;
 }
 
 }  // namespace
-
-std::string NomeForm(Schermata form) {
-  static const char* const nomi[] = {"Dadi",
-                                     "FormBanconote",
-                                     "FormBonus",
-                                     "FormCarte2Items",
-                                     "FormCarte4Items",
-                                     "FormCitta",
-                                     "FormImprevisti",
-                                     "FormInfo",
-                                     "FormMessaggi",
-                                     "FormPremiazione",
-                                     "FormProvaCapitali",
-                                     "FormProvaCitta",
-                                     "FormProvaOrdinamento",
-                                     "FormProvaPuzzle",
-                                     "FormRotazioneCarta",
-                                     "FormSovrapposizioni"};
-  return nomi[static_cast<int>(form)];
-}
 
 Mondo::Mondo() {
   AzzeraStato();
@@ -68,7 +49,7 @@ void Mondo::Tira(int giocatore, int dado) {
 }
 
 std::string Mondo::Da(const std::string& inizio) const {
-  auto prima = righe.end();
+  auto prima = inizio.empty() ? righe.begin() : righe.end();
   while (prima != righe.begin()) {
     if ((--prima)->starts_with(inizio)) break;
   }
@@ -83,34 +64,8 @@ int Mondo::Conta(const std::string& inizio) const {
   return quante;
 }
 
-void Mondo::RiduciCasella(int i) { Scrivi(Riga("Riduci", i)); }
-void Mondo::IngrandisciCasella(int i) { Scrivi(Riga("Ingrandisci", i)); }
-void Mondo::ColoraCasella(int i, int colore) { Scrivi(Riga("Colora", i, colore)); }
-void Mondo::LiberaCasella(int i) { Scrivi(Riga("Libera", i)); }
-void Mondo::MostraTratto(int p, int i) { Scrivi(Riga("Mostra", p, i)); }
-void Mondo::NascondiTratto(int p, int i) { Scrivi(Riga("Nascondi", p, i)); }
-void Mondo::AttivaTurno(int p) { Scrivi(Riga("AttivaTurno", p)); }
-
-void Mondo::ContaGruzzolo(int p, Euro da, Euro a) {
-  Scrivi(Riga("Conta", p, TestoImporto(da) + ".." + TestoImporto(a)));
-}
-
-void Mondo::ScriviGruzzolo(int p, Euro valore) { Scrivi(Riga("Scrivi", p, TestoImporto(valore))); }
-
-void Mondo::ColoraGruzzoli(int colore1, int colore2) { Scrivi(Riga("Colori", colore1, colore2)); }
-
-void Mondo::ScriviAnnuncio(std::string_view testo) { Scrivi(Riga("Annuncio", testo)); }
-
-void Mondo::PreparaSovrapposizioni(std::string_view label2, std::string_view label3) {
-  Scrivi(Riga("Scelta", label2, "|", label3));
-}
-
-void Mondo::MostraBanconota500(int p) { Scrivi(Riga("Banconota500", p)); }
-void Mondo::MostraBanconota50(int p) { Scrivi(Riga("Banconota50", p)); }
-void Mondo::MostraPremioSpeciale(int numero) { Scrivi(Riga("Premio", numero)); }
-
 int Mondo::Chiedi(std::string_view titolo, std::string_view testo) {
-  Scrivi(Riga("Chiede", titolo, testo));
+  Scrivi("Chiede", titolo, testo);
   const int risposta = uscite.front();
   uscite.pop_front();
   return risposta;
@@ -134,9 +89,6 @@ void Mondo::MostraNonModale(Schermata form) {
 }
 
 void Mondo::FineProgramma() { throw FineDelGioco(); }
-
-void Mondo::SuonoAsync(std::string_view nome) { Scrivi(std::string("~").append(nome)); }
-void Mondo::SuonoSync(std::string_view nome) { Scrivi(std::string("=").append(nome)); }
 
 double Mondo::Rnd() {
   if (generatore) return generatore();

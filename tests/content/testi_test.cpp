@@ -20,25 +20,19 @@ TEST(Testi, OddTextsStandAsWritten) {
     std::string_view testo;
   } kCasi[] = {
       {5, "Bologna è il capoluogo dell'Emiila-Romagna*1"},
-      {103, "Roma è il capoluogo del Lazio*1"},
       {144, "Copenhagenè la capitale della Norvegia*2"},
       {189, "Podgorica  è la capitale del Kossovo*2"},
       {210, "Berna  è attraversata dal fiume AAre*1"},
       {345, "Goteborg si affaccia su un tratto di mare chiamato \"la Manica\"*2"},
-      {399, "Il 19 Maggio è la festa dell'Unione Europea*2"},
       {400, "La Valletta: panorama dal mare"},
       {435, "Glasgow: l'auditorium \"Clyde\" (detto l'\"Armadillo\")"},
       {479, "Baku: palazzo del Governo dell'Azerbaijan "},
       {503, " euro e torni a "},
       {610, "Clicca le tre città che si affacciano sul mare Mediterraneo"},
       {620, "Clicca le tre città più popolose d'Europa: "},
-      {797, "80"},
-      {798, "0"},
       {998, "x"},
       {999, "IMPREVISTI*****************************"},
-      {1002, " ha mandato in regalo 500 monetine da 1 centesimo di euro. "},
       {1018, "TASSA \"UNA TANTUM\" SUI CONTI CORRENTI"},
-      {1035, " Girovia ti regala 5 € e tu tiri ancora il dado!"},
       {1074, " riceve 1 euro da ogni città del Rgno Unito presente in Girovia."},
       {1090, "ASSICURAZIONE SANITARIA OBBLIGATORIA "},
       {1092, "Il prezzo è di 10 euro per ogni giocatore."},
@@ -66,8 +60,6 @@ TEST(Testi, StatementsSayTrueAndFalseInTheRightMeasure) {
     if (a.esatta == 1) ++vere[id / 100];
   }
   EXPECT_THAT(vere, ElementsAre(100, 1, 100, 15));
-  EXPECT_EQ(LeggiAffermazione(LoadResString(103)).esatta, 1);
-  EXPECT_EQ(LeggiAffermazione(LoadResString(0)).frase, "La Valletta è la capitale di Malta.");
 }
 
 TEST(Quiz, EveryPhotoSetHasOneCityThatDoesNotFit) {

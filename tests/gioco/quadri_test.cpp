@@ -32,6 +32,8 @@ struct Quadro {
   std::function<void(Banco&)> apri;  // returns when the screen has closed
 };
 
+void PrintTo(const Quadro& quadro, std::ostream* su) { *su << quadro.nome; }
+
 void Turno(int giocatore, int dado) {
   using namespace mod_Girovia;
   Giocatore = giocatore;

@@ -126,7 +126,7 @@ TEST(Scimmia, BreaksNothing) {
   Cartella cartella;
   cartella.Alleggerisci();
   int eventi = 0;
-  for (unsigned seme = 1; eventi < 700 && !HasFatalFailure(); ++seme) {
+  for (unsigned seme = 1; eventi < 500 && !HasFatalFailure(); ++seme) {
     SCOPED_TRACE("seed " + std::to_string(seme));
     eventi += Scimmia(seme, cartella.percorso(), 250).Gioca();
   }

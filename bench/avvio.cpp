@@ -6,7 +6,7 @@
 
 #include "gioco.h"
 #include "misure.h"
-#include "platform/desktop/sdl_host.h"
+#include "platform/hosts/desktop/sdl_host.h"
 
 namespace {
 

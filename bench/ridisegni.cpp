@@ -4,7 +4,7 @@
 #include <string>
 
 #include "gioco.h"
-#include "platform/desktop/sdl_host.h"
+#include "platform/hosts/desktop/sdl_host.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "core/stato.h"
 #include "effects/form_dadi.h"
 #include "effects/form_rotazione_carta.h"
-#include "platform/msgbox.h"
+#include "platform/forms/msgbox.h"
 #include "screens/form_banconote.h"
 #include "screens/form_bonus.h"
 #include "screens/form_messaggi.h"

@@ -4,10 +4,10 @@
 #include <memory>
 #include <string>
 
-#include "platform/host.h"
-#include "platform/picture_store.h"
-#include "platform/random.h"
-#include "platform/sound.h"
+#include "platform/forms/picture_store.h"
+#include "platform/forms/sound.h"
+#include "platform/hosts/host.h"
+#include "platform/hosts/random.h"
 #include "screens/ambiente.h"
 #include "screens/form_girovia.h"
 #include "screens/form_sfondo.h"

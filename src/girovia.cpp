@@ -5,7 +5,7 @@
 
 #include "dimostrazione.h"
 #include "gioco.h"
-#include "platform/desktop/sdl_host.h"
+#include "platform/hosts/desktop/sdl_host.h"
 
 namespace {
 

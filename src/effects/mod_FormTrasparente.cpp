@@ -1,6 +1,6 @@
 #include "effects/mod_FormTrasparente.h"
 
-#include "platform/screen.h"
+#include "platform/forms/screen.h"
 
 namespace girovia {
 

@@ -1,7 +1,7 @@
 // Forms that look like a clear sheet: what the screen shows under a form, drawn on the form.
 #pragma once
 
-#include "platform/form.h"
+#include "platform/forms/form.h"
 
 namespace girovia {
 

@@ -1,7 +1,7 @@
 // A coloured veil over a form.
 #pragma once
 
-#include "platform/form.h"
+#include "platform/forms/form.h"
 
 namespace girovia {
 

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "core/interfacce.h"
-#include "platform/picture_store.h"
-#include "platform/screen.h"
+#include "platform/forms/picture_store.h"
+#include "platform/forms/screen.h"
 
 namespace girovia {
 

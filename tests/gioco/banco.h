@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "gioco.h"
-#include "platform/headless/headless_host.h"
+#include "platform/hosts/headless/headless_host.h"
 
 namespace girovia {
 

@@ -10,7 +10,7 @@
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 #include "core/stato.h"
-#include "platform/msgbox.h"
+#include "platform/forms/msgbox.h"
 
 namespace girovia {
 namespace {

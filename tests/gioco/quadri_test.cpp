@@ -10,9 +10,9 @@
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 #include "core/sorprese.h"
-#include "platform/msgbox.h"
-#include "platform/picture.h"
-#include "platform/reduce.h"
+#include "platform/drawing/picture.h"
+#include "platform/drawing/reduce.h"
+#include "platform/forms/msgbox.h"
 
 namespace girovia {
 namespace {

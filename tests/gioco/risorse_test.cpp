@@ -6,7 +6,7 @@
 
 #include "cartella.h"
 #include "content/catalogo.h"
-#include "platform/picture.h"
+#include "platform/drawing/picture.h"
 #include "registratore.h"
 
 namespace girovia {

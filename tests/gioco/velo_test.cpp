@@ -3,8 +3,8 @@
 
 #include "effects/mod_FormTrasparente.h"
 #include "effects/mod_Translucent.h"
-#include "platform/headless/headless_host.h"
-#include "platform/screen.h"
+#include "platform/forms/screen.h"
+#include "platform/hosts/headless/headless_host.h"
 
 namespace girovia {
 namespace {

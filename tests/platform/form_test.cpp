@@ -1,14 +1,14 @@
 // Forms, controls, timers and modal loops through the headless host, as a program uses them.
-#include "platform/form.h"
+#include "platform/forms/form.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "platform/headless/headless_host.h"
-#include "platform/msgbox.h"
-#include "platform/screen.h"
+#include "platform/forms/msgbox.h"
+#include "platform/forms/screen.h"
+#include "platform/hosts/headless/headless_host.h"
 
 namespace platform {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/picture.h"
+#include "platform/drawing/picture.h"
 
 #include <gtest/gtest.h>
 #include <stb/stb_image_write.h>

@@ -1,4 +1,4 @@
-#include "platform/reduce.h"
+#include "platform/drawing/reduce.h"
 
 #include <gtest/gtest.h>
 

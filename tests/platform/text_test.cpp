@@ -5,7 +5,7 @@
 #include <fstream>
 #include <random>
 
-#include "platform/surface.h"
+#include "platform/drawing/surface.h"
 
 namespace platform {
 namespace {

@@ -19,7 +19,7 @@
 #include "core/mod_Messaggi.h"
 #include "core/stato.h"
 #include "gioco.h"
-#include "platform/headless/headless_host.h"
+#include "platform/hosts/headless/headless_host.h"
 
 namespace {
 

@@ -1,0 +1,199 @@
+// The kinds of controls. Each has a Look: what a form's table sets at design.
+#pragma once
+
+#include "platform/forms/control.h"
+
+namespace platform {
+
+class CommandButton : public Control {
+ public:
+  struct Look {
+    SizedPicture picture = {};
+    Color back = colors::kButtonFace;
+    std::string caption = "";
+    Font font = {};
+    bool visible = true;
+    std::string toolTip = "";
+    const HandPointers* hand = nullptr;
+    bool focusOnMove = false;
+  };
+  void Apply(const Look& look);
+  void SetPicture(SizedPicture picture);
+  const SizedPicture& picture() const { return picture_; }
+  void SetBackColor(Color color);
+  Color backColor() const { return back_; }
+  void Paint(Surface& surface) override;
+  std::string_view text() const override { return caption_; }
+  bool TextFits() const override;
+
+ private:
+  Rect CaptionBox() const;
+  SizedPicture picture_;
+  Color back_ = colors::kButtonFace;
+  std::string caption_;
+  Font font_;
+};
+
+class Label : public Control {
+ public:
+  struct Look {
+    std::string caption = "";
+    Font font = {};
+    Color fore = colors::kBlack;
+    Color back = colors::kButtonFace;
+    bool transparent = true;
+    Align align = Align::Left;
+    bool wrap = true;
+    // Sizes itself to its text: a left-aligned one grows from its left edge, a right-aligned one
+    // from its right edge, a centred one about its middle; never wider than maxWidth (0: no bound).
+    bool autoSize = false;
+    double maxWidth = 0;
+    bool visible = true;
+  };
+  void Apply(const Look& look);
+  void SetCaption(std::string caption);
+  const std::string& caption() const { return caption_; }
+  void SetForeColor(Color color);
+  Color foreColor() const { return style_.color; }
+  void SetFont(const Font& font);
+  double drawnPoints() const { return style_.font.points; }
+  void Move(const Rect& place) override;
+  bool windowed() const override { return false; }
+  void Paint(Surface& surface) override;
+  std::string_view text() const override { return caption_; }
+  bool TextFits() const override;
+
+ private:
+  // A text too long for its box is set in a smaller size: a child can read small letters, but not
+  // letters that are cut off.
+  void Layout();
+
+  std::string caption_;
+  Font font_;        // as asked for
+  TextStyle style_;  // as drawn
+  Color back_ = colors::kButtonFace;
+  bool transparent_ = true;
+  bool autoSize_ = false;
+  double maxWidth_ = 0;
+  double anchor_ = 0;  // x of the edge or middle that stays when the label sizes itself
+};
+
+// A drawing surface of its own that may hold other controls.
+class PictureBox : public Control {
+ public:
+  struct Look {
+    Color back = colors::kButtonFace;
+    bool border = false;    // flat, one pixel, black
+    bool autoSize = false;  // takes the size of its picture, border added
+    bool visible = true;
+    bool sprite = false;  // the picture's transparency is cut, not blended
+    SizedPicture picture = {};
+  };
+  void Apply(const Look& look);
+  void SetPicture(const SizedPicture& picture);
+  void SetBorder(bool border);
+  void SetBackColor(Color color);
+  Color backColor() const { return back_; }
+  void Cls();
+  // The persistent surface, of the size inside the border.
+  Surface& surface();
+  int innerWidth() const { return int(place_.width) - 2 * inset(); }
+  int innerHeight() const { return int(place_.height) - 2 * inset(); }
+  void Move(const Rect& place) override;
+  void Paint(Surface& surface) override;
+  Point childOrigin() const override { return {double(inset()), double(inset())}; }
+
+ private:
+  int inset() const { return border_ ? 1 : 0; }
+  Surface surface_;
+  Color back_ = colors::kButtonFace;
+  bool border_ = false;
+  bool autoSize_ = false;
+  bool sprite_ = false;
+  SizedPicture picture_;
+};
+
+// Stretches its picture to its place.
+class Image : public Control {
+ public:
+  struct Look {
+    SizedPicture picture = {};
+    bool visible = true;
+  };
+  void Apply(const Look& look);
+  void SetPicture(SizedPicture picture);
+  bool windowed() const override { return false; }
+  void Paint(Surface& surface) override;
+
+ private:
+  SizedPicture picture_;
+};
+
+class Shape : public Control {
+ public:
+  enum class Kind { Rectangle, RoundedRectangle, Oval };
+  struct Look {
+    Kind kind = Kind::Rectangle;
+    Color border = colors::kBlack;
+    double borderWidth = 1;
+    bool filled = false;
+    Color fill = colors::kWhite;
+    bool visible = true;
+  };
+  void Apply(const Look& look);
+  void SetBorderWidth(double width);
+  double borderWidth() const { return look_.borderWidth; }
+  void SetFill(Color color);
+  bool windowed() const override { return false; }
+  bool takesMouse() const override { return false; }
+  void Paint(Surface& surface) override;
+
+ private:
+  Look look_;
+};
+
+class Line : public Control {
+ public:
+  struct Look {
+    double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+    double width = 1;
+    Color color = colors::kBlack;
+    bool visible = true;
+  };
+  void Apply(const Look& look);
+  void SetColor(Color color);
+  bool windowed() const override { return false; }
+  bool takesMouse() const override { return false; }
+  Rect PaintBounds() const override;
+  void Paint(Surface& surface) override;
+
+ private:
+  Look look_;
+};
+
+// Fires while enabled, every interval, as an event of the one loop. Not seen.
+class Timer {
+ public:
+  Timer() = default;
+  Timer(const Timer&) = delete;
+  Timer& operator=(const Timer&) = delete;
+  ~Timer();
+  void Attach(Form& form, int intervalMs, bool enabled);
+  void SetEnabled(bool enabled);
+  bool enabled() const { return enabled_; }
+  void SetInterval(int ms);
+  int interval() const { return intervalMs_; }
+  std::function<void()> OnTimer;
+
+  // For the screen.
+  std::int64_t due() const { return dueMicros_; }
+  void Fire(std::int64_t nowMicros);
+
+ private:
+  Screen* screen_ = nullptr;
+  int intervalMs_ = 0;
+  bool enabled_ = false;
+  std::int64_t dueMicros_ = 0;
+};
+
+}  // namespace platform

@@ -1,0 +1,128 @@
+// The plane on which all forms are composed, and the one loop that runs them.
+//
+// The window's pixels are divided by the largest factor at which 800 by 600 logical pixels fit; the
+// plane is the window in logical pixels, drawn at the next whole scale at or above that factor.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/forms/form.h"
+#include "platform/hosts/host.h"
+
+namespace platform {
+
+// Thrown by EndProgram and passed through every nested loop up to whoever called Run.
+struct ProgramEnded {};
+
+class Screen {
+ public:
+  // Forms are at least 800 by 600 logical pixels of room. `scale` 0 chooses it from the host.
+  explicit Screen(Host& host, int scale = 0);
+  ~Screen();
+
+  Host& host() { return host_; }
+  int scale() const { return scale_; }
+  PixelSize planeSize() const { return planeSize_; }  // device pixels
+  double windowPixelsPerLogical() const { return fit_; }
+  const Surface& plane() const { return plane_; }
+  // Logical plane coordinates to window pixels, the middle of the point.
+  Point ToWindow(Point logical) const;
+
+  // --- The loop
+  void Run();  // until the program ends: never returns otherwise than by ProgramEnded
+  [[noreturn]] void EndProgram();
+  // Blocks for the time told, runs no event, keeps the window alive and throws away the clicks made
+  // meanwhile. What was changed before is shown first.
+  void Wait(double milliseconds);
+  // As Wait, up to a point of the host's clock; returns at once if that has passed.
+  void WaitUntil(std::int64_t micros);
+  void ShowModal(Form& form);
+
+  // --- Painting
+  void Invalidate(const DeviceRect& area);
+  void Repaint(const DeviceRect& area);  // this part at once, nothing else
+  void Flush();                          // all that is invalid, at once
+  // The composed plane under `form`, as a surface of the form's size, as if the form and what lies
+  // over it were not there.
+  Surface CaptureUnder(const Form& form);
+  // The composed plane in the form's rectangle, everything included.
+  Surface Capture(const Form& form);
+
+  // --- Forms, bottom to top
+  const std::vector<Form*>& forms() const { return forms_; }
+  Form* top() const { return forms_.empty() ? nullptr : forms_.back(); }
+  // Input goes to the front modal form and to what lies over it.
+  bool TakesInput(const Form& form) const;
+  void BringIn(Form& form);  // on top of the others
+  void TakeOut(Form& form);
+  void Activate();  // Form_Activate of the form that has come to the front, if another was there
+  // Keeps a form that is shown not modally until it has been unloaded.
+  void Own(std::unique_ptr<Form> form) { owned_.push_back(std::move(form)); }
+
+  // --- Mouse
+  void Drag(Form& form);
+  // Keeps the pointer in a rectangle of plane coordinates (logical) or frees it.
+  void ClipCursor(const std::optional<Rect>& area);
+  Control* pressed() const { return pressed_; }
+
+  // --- For timers, controls and sounds
+  void AddTimer(Timer* timer) { timers_.push_back(timer); }
+  void RemoveTimer(Timer* timer);
+  void Forget(Control* control);
+  void Forget(Form* form);
+  // Whoever keeps a record of a game is told of each sound and each form.
+  std::function<void(const std::string&)> OnSound;
+  std::function<void(const Form&)> OnForm;  // has come to the front
+  void Heard(const std::string& name) {
+    if (OnSound) OnSound(name);
+  }
+
+ private:
+  void Measure();
+  void RunWhile(const std::function<bool()>& go);
+  void RunTimers();
+  std::int64_t NextDue() const;
+  void Dispatch(const Event& event);
+  bool HandleSystem(const Event& event);  // true if that was all
+  void MouseMoved(Point at);
+  void MousePressed(Point at, MouseButton button);
+  void MouseReleased(Point at, MouseButton button);
+  Form* FormAt(Point at) const;
+  Point InForm(const Form& form, Point at) const;
+  MouseArgs ArgsFor(const Control& control, const Form& form, Point at, MouseButton button) const;
+  void UpdatePointer(Point at);
+  void Compose(const DeviceRect& area);
+  void ShowTip();
+  void HideTip();
+  void PaintTip(const DeviceRect& area);
+
+  Host& host_;
+  int fixedScale_;
+  int scale_ = 1;
+  double fit_ = 1;
+  PixelSize window_;
+  PixelSize planeSize_;
+  Surface plane_;
+  std::vector<DeviceRect> invalid_;
+  std::vector<Form*> forms_;
+  std::vector<Form*> modal_;
+  std::vector<std::unique_ptr<Form>> owned_;
+  Form* active_ = nullptr;
+  std::vector<Timer*> timers_;
+  Control* pressed_ = nullptr;
+  Control* hovered_ = nullptr;
+  Form* dragged_ = nullptr;
+  Point dragFrom_;
+  Point mouse_;
+  std::optional<Rect> clip_;
+  Pointer shownPointer_;
+  bool ended_ = false;
+  Control* tipFor_ = nullptr;  // waits for its tip, or shows it
+  std::int64_t tipDue_ = 0;
+  DeviceRect tipArea_;  // empty while no tip is shown
+};
+
+}  // namespace platform

@@ -1,0 +1,305 @@
+#include "platform/hosts/desktop/sdl_host.h"
+
+#include <SDL.h>
+#include <time.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdlib>
+#include <map>
+#include <utility>
+
+#include "platform/drawing/picture.h"
+#include "platform/drawing/reduce.h"
+#include "platform/drawing/resample.h"
+#include "platform/hosts/desktop/sdl_voice.h"
+
+namespace platform {
+namespace {
+
+constexpr int kWindowWidth = 1000;
+constexpr int kWindowHeight = 750;
+
+class SdlHost : public Host {
+ public:
+  SdlHost(SDL_Window* window, const DesktopOptions& options) : window_(window) {
+    int error = 0;
+    if (const auto icon = Picture::Load(options.iconPath, error)) {
+      // SDL copies the icon, so that the pixels need to live only for the call.
+      std::vector<std::uint32_t> pixels = icon->argb();
+      SDL_Surface* surface =
+          SDL_CreateRGBSurfaceWithFormatFrom(pixels.data(), icon->pixelWidth(), icon->pixelHeight(),
+                                             32, icon->pixelWidth() * 4, SDL_PIXELFORMAT_ARGB8888);
+      SDL_SetWindowIcon(window_, surface);
+      SDL_FreeSurface(surface);
+    }
+  }
+
+  ~SdlHost() override {
+    voice_.Close();
+    for (auto& [key, cursor] : cursors_) SDL_FreeCursor(cursor.sdl);
+    SDL_DestroyWindow(window_);
+    SDL_Quit();
+  }
+
+  PixelSize WindowSize() override {
+    PixelSize size;
+    SDL_GetWindowSize(window_, &size.width, &size.height);
+    return {std::max(1, size.width), std::max(1, size.height)};
+  }
+
+  PixelSize LargestWindow() override {
+    PixelSize largest = WindowSize();
+    for (int i = 0; i < SDL_GetNumVideoDisplays(); ++i) {
+      SDL_DisplayMode mode;
+      if (SDL_GetDesktopDisplayMode(i, &mode) != 0) continue;
+      largest.width = std::max(largest.width, mode.w);
+      largest.height = std::max(largest.height, mode.h);
+    }
+    return largest;
+  }
+
+  std::int64_t NowMicros() override {
+    return std::chrono::duration_cast<std::chrono::microseconds>(
+               std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+  }
+
+  bool WaitEvent(Event& event, std::int64_t deadline) override {
+    for (;;) {
+      if (voice_.idleAt() <= NowMicros()) voice_.Close();
+      const std::int64_t until = std::min(deadline, voice_.idleAt());
+      SDL_Event sdl;
+      int got = 0;
+      if (until == kForever) {
+        got = SDL_WaitEvent(&sdl);
+      } else {
+        const std::int64_t left = until - NowMicros();
+        // Under a millisecond SDL cannot sleep exactly: the clock does it, and events can wait.
+        if (left <= 0) {
+          got = SDL_PollEvent(&sdl);
+        } else if (left < 1000) {
+          SleepMicros(left);
+          got = SDL_PollEvent(&sdl);
+        } else {
+          got = SDL_WaitEventTimeout(&sdl, int(std::min<std::int64_t>(left / 1000, 1'000'000)));
+        }
+      }
+      if (got && Translate(sdl, event)) return true;
+      if (!got && NowMicros() >= deadline) return false;
+    }
+  }
+
+  void Show(const Surface& plane, PixelSize planeSize,
+            const std::vector<DeviceRect>& changed) override {
+    SDL_Surface* target = SDL_GetWindowSurface(window_);
+    if (!target || target->format->BytesPerPixel != 4) return;
+    const PixelSize window{target->w, target->h};
+    if (!reducer_ || planeSize != reducedPlane_ || window != reducedWindow_) {
+      reducer_ =
+          std::make_unique<Reducer>(planeSize.width, planeSize.height, window.width, window.height);
+      reducedPlane_ = planeSize;
+      reducedWindow_ = window;
+    }
+    if (SDL_MUSTLOCK(target) && SDL_LockSurface(target) != 0) return;
+    std::vector<SDL_Rect> rects;
+    for (const DeviceRect& r : changed) {
+      const DeviceRect t = reducer_->TargetOf(r);
+      if (t.empty()) continue;
+      reducer_->Run(plane.row(0), plane.deviceWidth(), static_cast<std::uint32_t*>(target->pixels),
+                    target->pitch / 4, t);
+      rects.push_back({t.left, t.top, t.width(), t.height()});
+    }
+    if (SDL_MUSTLOCK(target)) SDL_UnlockSurface(target);
+    if (!rects.empty()) SDL_UpdateWindowSurfaceRects(window_, rects.data(), int(rects.size()));
+    if (!shown_) {
+      shown_ = true;
+      if (firstSound_) PlaySound(std::exchange(firstSound_, nullptr));
+    }
+  }
+
+  void SetPointer(const Pointer& pointer, double scale) override {
+    SDL_SetCursor(CursorFor(pointer, scale));
+  }
+
+  void ClipPointer(const std::optional<DeviceRect>& area) override {
+    if (!area) {
+      SDL_SetWindowMouseRect(window_, nullptr);
+      return;
+    }
+    const SDL_Rect rect{area->left, area->top, area->width(), area->height()};
+    SDL_SetWindowMouseRect(window_, &rect);
+  }
+
+  void PlaySound(const std::shared_ptr<const Wave>& wave) override {
+    // Opening the sound system takes as long as the window does: the first picture goes first.
+    if (shown_)
+      voice_.Play(wave, NowMicros());
+    else
+      firstSound_ = wave;
+  }
+
+ private:
+  static void SleepMicros(std::int64_t micros) {
+    timespec time{0, long(micros) * 1000};
+    nanosleep(&time, nullptr);
+  }
+
+  bool Translate(const SDL_Event& sdl, Event& event) {
+    switch (sdl.type) {
+      case SDL_QUIT:
+        event.kind = EventKind::Quit;
+        return true;
+      case SDL_MOUSEMOTION:
+        event = {EventKind::MouseMove, sdl.motion.x, sdl.motion.y, MouseButton::Left};
+        return true;
+      case SDL_MOUSEBUTTONDOWN:
+      case SDL_MOUSEBUTTONUP:
+        if (sdl.button.button < SDL_BUTTON_LEFT || sdl.button.button > SDL_BUTTON_RIGHT)
+          return false;
+        event = {sdl.type == SDL_MOUSEBUTTONDOWN ? EventKind::MouseDown : EventKind::MouseUp,
+                 sdl.button.x, sdl.button.y, MouseButton(sdl.button.button)};
+        return true;
+      case SDL_KEYDOWN: {
+        const bool altEnter =
+            sdl.key.keysym.sym == SDLK_RETURN && (sdl.key.keysym.mod & KMOD_ALT) != 0;
+        if ((sdl.key.keysym.sym == SDLK_F11 || altEnter) && !sdl.key.repeat) ToggleFullScreen();
+        return false;
+      }
+      case SDL_WINDOWEVENT:
+        switch (sdl.window.event) {
+          case SDL_WINDOWEVENT_SIZE_CHANGED:
+            event.kind = EventKind::Resize;
+            return true;
+          case SDL_WINDOWEVENT_EXPOSED:
+            event.kind = EventKind::Expose;
+            return true;
+          case SDL_WINDOWEVENT_LEAVE:
+            event.kind = EventKind::MouseLeave;
+            return true;
+          default:
+            return false;
+        }
+      default:
+        return false;
+    }
+  }
+
+  void ToggleFullScreen() {
+    if (SDL_GetWindowFlags(window_) & SDL_WINDOW_FULLSCREEN_DESKTOP) {
+      SDL_SetWindowFullscreen(window_, 0);
+      SDL_SetWindowSize(window_, kWindowWidth, kWindowHeight);
+      SDL_SetWindowPosition(window_, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
+      return;
+    }
+    // As at the start, the size is set here and not left to a window manager.
+    SDL_Rect place;
+    if (SDL_GetDisplayBounds(SDL_GetWindowDisplayIndex(window_), &place) == 0) {
+      SDL_SetWindowPosition(window_, place.x, place.y);
+      SDL_SetWindowSize(window_, place.w, place.h);
+    }
+    SDL_SetWindowFullscreen(window_, SDL_WINDOW_FULLSCREEN_DESKTOP);
+  }
+
+  SDL_Cursor* CursorFor(const Pointer& pointer, double scale) {
+    const auto key = std::make_pair(int(pointer.kind), pointer.picture.get());
+    auto found = cursors_.find(key);
+    if (found != cursors_.end() && found->second.scale == scale) return found->second.sdl;
+    SDL_Cursor* cursor = nullptr;
+    switch (pointer.kind) {
+      case Pointer::Kind::Arrow:
+        cursor = SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_ARROW);
+        break;
+      case Pointer::Kind::Hourglass:
+        cursor = SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_WAIT);
+        break;
+      case Pointer::Kind::SizeAll:
+        cursor = SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_SIZEALL);
+        break;
+      case Pointer::Kind::Custom:
+        cursor = CustomCursor(pointer, scale);
+        break;
+    }
+    if (found != cursors_.end()) {
+      // Replaced before it is freed: SDL must not be left with a freed cursor in use.
+      SDL_SetCursor(cursor);
+      SDL_FreeCursor(found->second.sdl);
+    }
+    cursors_[key] = {cursor, scale};
+    return cursor;
+  }
+
+  static SDL_Cursor* CustomCursor(const Pointer& pointer, double scale) {
+    constexpr int kLogical = 32;
+    const int size = std::clamp(int(std::lround(kLogical * scale)), 8, 128);
+    const Picture& picture = *pointer.picture;
+    std::vector<std::uint32_t> pixels = Resample(
+        {picture.argb().data(), picture.pixelWidth(), picture.pixelWidth(), picture.pixelHeight()},
+        size, size, true);
+    SDL_Surface* surface = SDL_CreateRGBSurfaceWithFormatFrom(pixels.data(), size, size, 32,
+                                                              size * 4, SDL_PIXELFORMAT_ARGB8888);
+    if (!surface) return nullptr;
+    SDL_Cursor* cursor = SDL_CreateColorCursor(surface, pointer.hotX * size / kLogical,
+                                               pointer.hotY * size / kLogical);
+    SDL_FreeSurface(surface);
+    return cursor;
+  }
+
+  struct Cursor {
+    SDL_Cursor* sdl = nullptr;
+    double scale = 0;
+  };
+  SDL_Window* window_;
+  std::unique_ptr<Reducer> reducer_;
+  PixelSize reducedPlane_, reducedWindow_;
+  std::map<std::pair<int, const Picture*>, Cursor> cursors_;
+  SdlVoice voice_;
+  bool shown_ = false;
+  std::shared_ptr<const Wave> firstSound_;
+};
+
+}  // namespace
+
+std::unique_ptr<Host> OpenDesktop(const DesktopOptions& options, std::string& why) {
+  // The window's own framebuffer: a renderer would fall back on software GL on machines without a
+  // graphics card, which costs three times the start and ten times the memory.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+  SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
+  SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
+  SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+#ifdef __linux__
+  // With no display server named there is only the console; asking the others would have them
+  // complain on stderr.
+  if (!std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY"))
+    SDL_SetHint(SDL_HINT_VIDEODRIVER, "KMSDRM");
+#endif
+  if (SDL_Init(SDL_INIT_VIDEO) != 0) {
+    why = SDL_GetError();
+    SDL_Quit();
+    return nullptr;
+  }
+  // SDL falls back on drivers that draw into memory where nobody sees it.
+  const std::string driver = SDL_GetCurrentVideoDriver();
+  if (driver == "offscreen" || driver == "dummy") {
+    why = "nessun display";
+    SDL_Quit();
+    return nullptr;
+  }
+  Uint32 flags = SDL_WINDOW_RESIZABLE;
+  if (options.fullScreen) flags |= SDL_WINDOW_FULLSCREEN_DESKTOP;
+  // Made as large as it is to be: where no window manager runs nobody else would do it.
+  SDL_Rect place{SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, kWindowWidth, kWindowHeight};
+  if (options.fullScreen) SDL_GetDisplayBounds(0, &place);
+  SDL_Window* window =
+      SDL_CreateWindow(options.title.c_str(), place.x, place.y, place.w, place.h, flags);
+  if (!window) {
+    why = SDL_GetError();
+    SDL_Quit();
+    return nullptr;
+  }
+  SDL_SetWindowMinimumSize(window, 400, 300);
+  return std::make_unique<SdlHost>(window, options);
+}
+
+}  // namespace platform

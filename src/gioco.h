@@ -4,11 +4,11 @@
 #include <memory>
 #include <string>
 
+#include "comune/ambiente.h"
 #include "platform/forms/picture_store.h"
 #include "platform/forms/sound.h"
 #include "platform/hosts/host.h"
 #include "platform/hosts/random.h"
-#include "screens/ambiente.h"
 #include "screens/form_girovia.h"
 #include "screens/form_sfondo.h"
 

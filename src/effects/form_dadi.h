@@ -1,8 +1,8 @@
 // The throw of the two dice, over a picture of the board.
 #pragma once
 
+#include "comune/ambiente.h"
 #include "effects/dadi_logica.h"
-#include "screens/ambiente.h"
 
 namespace girovia {
 

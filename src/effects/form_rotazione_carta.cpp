@@ -1,7 +1,7 @@
 #include "effects/form_rotazione_carta.h"
 
+#include "comune/mod_FormTrasparente.h"
 #include "core/mod_Girovia.h"
-#include "effects/mod_FormTrasparente.h"
 
 namespace girovia {
 

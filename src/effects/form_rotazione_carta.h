@@ -1,8 +1,8 @@
 // The card that turns about its upright axis before a card trial.
 #pragma once
 
+#include "comune/ambiente.h"
 #include "effects/rotazione_logica.h"
-#include "screens/ambiente.h"
 
 namespace girovia {
 

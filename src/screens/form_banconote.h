@@ -1,7 +1,7 @@
 // The money of a move, in notes and coins.
 #pragma once
 
-#include "screens/form_con_titolo.h"
+#include "comune/form_con_titolo.h"
 
 namespace girovia {
 

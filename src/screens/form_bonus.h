@@ -1,7 +1,7 @@
 // The drawn money prize of a map trial, inside a star.
 #pragma once
 
-#include "screens/ambiente.h"
+#include "comune/ambiente.h"
 
 namespace girovia {
 

@@ -3,8 +3,8 @@
 // do.
 #pragma once
 
+#include "comune/ambiente.h"
 #include "core/interfacce.h"
-#include "screens/ambiente.h"
 
 namespace girovia {
 

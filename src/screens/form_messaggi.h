@@ -1,7 +1,7 @@
 // The yes-or-no question.
 #pragma once
 
-#include "screens/form_con_titolo.h"
+#include "comune/form_con_titolo.h"
 
 namespace girovia {
 

@@ -1,7 +1,7 @@
 // The full-screen dark backdrop that lies behind every other form for the whole run.
 #pragma once
 
-#include "screens/ambiente.h"
+#include "comune/ambiente.h"
 
 namespace girovia {
 

@@ -1,7 +1,7 @@
 // The choice of the player who arrives on an occupied square.
 #pragma once
 
-#include "screens/form_con_titolo.h"
+#include "comune/form_con_titolo.h"
 
 namespace girovia {
 

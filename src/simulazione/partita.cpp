@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "comune/premio_cadente.h"
 #include "content/quiz.h"
 #include "core/imprevisti.h"
 #include "core/interfacce.h"
@@ -16,7 +17,6 @@
 #include "screens/bonus_logica.h"
 #include "simulazione/controllore.h"
 #include "trials/carte2_logica.h"
-#include "trials/premio_cadente.h"
 
 namespace girovia::simulazione {
 

@@ -1,9 +1,9 @@
 #include "trials/form_carte2_items.h"
 
+#include "comune/premio_cadente.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 #include "trials/carte2_logica.h"
-#include "trials/premio_cadente.h"
 
 namespace girovia {
 

@@ -1,8 +1,8 @@
 // The true-or-false card.
 #pragma once
 
-#include "screens/ambiente.h"
-#include "trials/premio_sul_form.h"
+#include "comune/ambiente.h"
+#include "comune/premio_sul_form.h"
 
 namespace girovia {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "trials/segni_tempo.h"
+#include "comune/segni_tempo.h"
 
 namespace girovia {
 

@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
+#include "comune/segni_tempo.h"
 #include "core/interfacce.h"
 #include "trials/griglia.h"
-#include "trials/segni_tempo.h"
 
 namespace girovia {
 

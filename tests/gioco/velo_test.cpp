@@ -1,8 +1,8 @@
 // What makes a form look like a sheet over the board.
 #include <gtest/gtest.h>
 
-#include "effects/mod_FormTrasparente.h"
-#include "effects/mod_Translucent.h"
+#include "comune/mod_FormTrasparente.h"
+#include "comune/mod_Translucent.h"
 #include "platform/forms/screen.h"
 #include "platform/hosts/headless/headless_host.h"
 

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "comune/premio_cadente.h"
 #include "trials/carte2_logica.h"
 #include "trials/carte4_logica.h"
-#include "trials/premio_cadente.h"
 
 namespace girovia {
 namespace {

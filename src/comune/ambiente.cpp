@@ -1,4 +1,4 @@
-#include "screens/ambiente.h"
+#include "comune/ambiente.h"
 
 #include <cerrno>
 #include <cstdlib>

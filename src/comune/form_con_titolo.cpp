@@ -1,4 +1,4 @@
-#include "screens/form_con_titolo.h"
+#include "comune/form_con_titolo.h"
 
 namespace girovia {
 namespace {

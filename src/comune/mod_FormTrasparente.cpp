@@ -1,4 +1,4 @@
-#include "effects/mod_FormTrasparente.h"
+#include "comune/mod_FormTrasparente.h"
 
 #include "platform/forms/screen.h"
 

@@ -1,4 +1,4 @@
-#include "trials/premio_cadente.h"
+#include "comune/premio_cadente.h"
 
 #include <iterator>
 

@@ -1,7 +1,7 @@
-#include "trials/premio_sul_form.h"
+#include "comune/premio_sul_form.h"
 
+#include "comune/premio_cadente.h"
 #include "core/mod_Girovia.h"
-#include "trials/premio_cadente.h"
 
 namespace girovia {
 

@@ -1,4 +1,4 @@
-#include "effects/mod_Translucent.h"
+#include "comune/mod_Translucent.h"
 
 #include "platform/forms/screen.h"
 

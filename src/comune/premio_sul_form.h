@@ -1,7 +1,7 @@
 // The falling prize as a card shows it: the picture box, the sound and the amount in play.
 #pragma once
 
-#include "screens/ambiente.h"
+#include "comune/ambiente.h"
 
 namespace girovia {
 

@@ -2,7 +2,7 @@
 // slides from right to left without end.
 #pragma once
 
-#include "screens/ambiente.h"
+#include "comune/ambiente.h"
 
 namespace girovia {
 

@@ -1,4 +1,4 @@
-#include "trials/segni_tempo.h"
+#include "comune/segni_tempo.h"
 
 namespace girovia {
 

@@ -3,12 +3,12 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "core/eventi.h"
 #include "core/imprevisti.h"
 #include "core/interfacce.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 #include "core/stato.h"
-#include "core/tabellone.h"
 
 namespace {
 
@@ -71,9 +71,9 @@ int main() {
   const auto start = std::chrono::steady_clock::now();
   int chi = 1;
   for (int i = 0; i < kTurni; ++i) {
-    tabellone::cmdRitratto_Click(chi);
+    eventi::cmdRitratto_Click(chi);
     mod_Girovia::Dado = Estrai(6) + Estrai(6) + 2;
-    tabellone::Form_Activate();
+    eventi::Form_Activate();
     chi = mod_Girovia::Giocatore;
   }
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;

@@ -53,6 +53,7 @@ void Gioco::Apri() {
 
   tabellone_ = std::make_unique<FormGirovia>(ambiente_);
   servizi().tabellone = tabellone_.get();
+  servizi().comandi = tabellone_.get();
   tabellone_->Load();
 }
 
@@ -90,8 +91,8 @@ std::unique_ptr<platform::Form> Gioco::Crea(Schermata schermata) {
     case Schermata::FormSovrapposizioni: {
       auto form = std::make_unique<FormSovrapposizioni>(ambiente_);
       form->Load();
-      form->Label2.SetCaption(tabellone_->label2());
-      form->Label3.SetCaption(tabellone_->label3());
+      form->Label2.SetCaption(label2_);
+      form->Label3.SetCaption(label3_);
       return form;
     }
     case Schermata::FormBanconote:

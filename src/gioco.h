@@ -41,6 +41,10 @@ class Gioco : private Schermi, private Suoni, private Attese, private Caso {
  private:
   void MostraModale(Schermata schermata) override { Crea(schermata)->ShowModal(); }
   void MostraNonModale(Schermata) override;
+  void PreparaSovrapposizioni(std::string_view label2, std::string_view label3) override {
+    label2_ = label2;
+    label3_ = label3;
+  }
   void FineProgramma() override { screen_.EndProgram(); }
   void SuonoAsync(std::string_view nome) override { suoni_.PlayAsync(std::string(nome)); }
   void SuonoSync(std::string_view nome) override { suoni_.PlaySync(std::string(nome)); }
@@ -55,6 +59,7 @@ class Gioco : private Schermi, private Suoni, private Attese, private Caso {
   Ambiente ambiente_;
   std::unique_ptr<FormSfondo> sfondo_;
   std::unique_ptr<FormGirovia> tabellone_;
+  std::string label2_, label3_;  // for the next overlap dialog
 };
 
 }  // namespace girovia

@@ -1,8 +1,5 @@
 #include "comune/ambiente.h"
 
-#include <cerrno>
-#include <cstdlib>
-
 #include "content/catalogo.h"
 
 namespace girovia {
@@ -43,10 +40,6 @@ platform::Pointer Immagini::Puntatore(int id) {
           .picture = immagine.picture,
           .hotX = voce->caldoX,
           .hotY = voce->caldoY};
-}
-
-platform::Color NumeroColore(const std::string& decimale) {
-  return platform::Color(std::strtoul(decimale.c_str(), nullptr, 10)) & 0xFFFFFF;
 }
 
 }  // namespace girovia

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/interfacce.h"
+#include "core/stato.h"
 #include "platform/forms/picture_store.h"
 #include "platform/forms/screen.h"
 
@@ -56,6 +57,8 @@ inline platform::Font Verdana(double punti, bool grassetto = false) {
 }
 
 // A colour kept as decimal text, as mod_Girovia::Colore holds it.
-platform::Color NumeroColore(const std::string& decimale);
+inline platform::Color NumeroColore(const std::string& decimale) {
+  return platform::Color(ValoreColore(decimale));
+}
 
 }  // namespace girovia

@@ -19,21 +19,6 @@ void FormConTitolo::RigheTitolo(const platform::Rect& posto, platform::Color fon
   Row(TimerTitolo, 15, false, [this] { TimerTitolo_Timer(); });
 }
 
-void FormConTitolo::DisegnaCornice() {
-  platform::Surface& s = surface();
-  const double W = width(), H = height();
-  s.Box(W, 3, 0, 0, {3, 0xE0E0E0});
-  s.Box(0, 0, 3, H - 2, {3, 0xE0E0E0});
-  s.Box(W, 0, 0, 0, {1, 0xFFFFFF});
-  s.Box(0, 0, 0, H, {1, 0xFFFFFF});
-  for (int i = 1; i <= 6; ++i) {
-    s.FillBox(i, H - i, W, H, 0x808080);
-    s.FillBox(W - i, i, W, H, 0x808080);
-  }
-  s.FillBox(0, H - 1, W, H, 0x000000);
-  s.FillBox(W - 1, 0, W, H, 0x000000);
-}
-
 void FormConTitolo::PreparaTitolo() {
   PicLogoNero.SetPicture(a_.immagini.DiSchermata("PicLogoNero"));
   PicLogoBianco.SetPicture(a_.immagini.DiSchermata("PicLogoBianco"));

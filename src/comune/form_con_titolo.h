@@ -14,8 +14,7 @@ class FormConTitolo : public platform::Form {
  protected:
   // The strip's rows of the table. The clean strip has the colour `fondo`, whatever PicCornice has.
   void RigheTitolo(const platform::Rect& posto, platform::Color fondo);
-  void DisegnaCornice();  // on the form's surface, along its edges
-  void PreparaTitolo();   // the logo stands at the right end of the strip
+  void PreparaTitolo();  // the logo stands at the right end of the strip
   void TimerTitolo_Timer();
 
   Ambiente& a_;

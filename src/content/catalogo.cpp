@@ -155,8 +155,7 @@ constexpr VoceCatalogo kSingole[] = {
 
 constexpr int kPrimoRitratto = 124;
 constexpr int kUltimoRitratto = 135;
-constexpr int kPrimoPremio = 346;
-constexpr int kUltimoPremio = 372;
+constexpr int kUltimoPremio = kPrimoPremio + 2 * (kNumeroPremi - 1);
 constexpr int kPrimaFoto = 400;
 constexpr int kUltimaFoto = 500;  // the last one is the map of Europe
 

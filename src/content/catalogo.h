@@ -15,6 +15,10 @@ enum class Tipo { Bitmap, Jpeg, Cursor, Icon, Schermata };
 // A sprite is drawn on white and copied through its mask, a black silhouette on white.
 enum class Ruolo { Plain, Sprite, Mask };
 
+// The special prizes of the ceremony: number r is bitmap kPrimoPremio + 2 r, its mask the next.
+inline constexpr int kPrimoPremio = 346;
+inline constexpr int kNumeroPremi = 14;
+
 struct VoceCatalogo {
   Tipo tipo = Tipo::Bitmap;
   int id = 0;               // 0 for a picture that goes by a name

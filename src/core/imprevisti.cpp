@@ -1,7 +1,5 @@
 #include "core/imprevisti.h"
 
-#include <utf8proc.h>
-
 #include <array>
 #include <string_view>
 #include <utility>
@@ -12,6 +10,7 @@
 #include "core/interfacce.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
+#include "core/nomi.h"
 #include "core/stato.h"
 
 namespace girovia {
@@ -87,21 +86,6 @@ constexpr std::array<Carta, 31> kMazzo = {
 };
 
 const Carta& CartaCorrente() { return kMazzo[mod_Messaggi::IndiceImprevisto]; }
-
-std::string Maiuscolo(std::string_view testo) {
-  std::string esito;
-  while (!testo.empty()) {
-    utf8proc_int32_t codice = 0;
-    const auto* byte = reinterpret_cast<const utf8proc_uint8_t*>(testo.data());
-    const auto letti = utf8proc_iterate(byte, static_cast<utf8proc_ssize_t>(testo.size()), &codice);
-    if (letti <= 0) break;
-    utf8proc_uint8_t grande[4];
-    const auto scritti = utf8proc_encode_char(utf8proc_toupper(codice), grande);
-    esito.append(reinterpret_cast<const char*>(grande), static_cast<std::size_t>(scritti));
-    testo.remove_prefix(static_cast<std::size_t>(letti));
-  }
-  return esito;
-}
 
 // With equal purses player 2 counts as the richer.
 int PiuRicco() { return Gruzzolo[1] > Gruzzolo[2] ? 1 : 2; }
@@ -225,7 +209,7 @@ PaginaImprevisto CaricaImprevisto() {
     Gruzzolo[3 - ruoli.ricco] += 5_euro;
   }
   if (carta.effetto == Effetto::Volo) ruoli.avanti = Vola();
-  return {Maiuscolo(LoadResString(testi)), Colonna(carta.sinistra, LoadResString(testi + 1), ruoli),
+  return {Maiuscole(LoadResString(testi)), Colonna(carta.sinistra, LoadResString(testi + 1), ruoli),
           Colonna(carta.destra, LoadResString(testi + 2), ruoli), carta.effetto == Effetto::Volo};
 }
 

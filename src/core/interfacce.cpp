@@ -4,6 +4,7 @@ namespace girovia {
 namespace {
 
 Tabellone nessunTabellone;
+Comandi nessunComando;
 Cerimonia nessunaCerimonia;
 Schermi nessunoSchermo;
 Suoni nessunSuono;
@@ -14,6 +15,7 @@ Servizi correnti;
 
 Servizi::Servizi()
     : tabellone(&nessunTabellone),
+      comandi(&nessunComando),
       cerimonia(&nessunaCerimonia),
       schermi(&nessunoSchermo),
       suoni(&nessunSuono),

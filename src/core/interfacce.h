@@ -28,8 +28,8 @@ enum class Schermata {
 
 inline constexpr int kNumeroSchermate = int(Schermata::FormSovrapposizioni) + 1;
 
-// The board. p is a player, i a square; MostraTratto and NascondiTratto count the segment that
-// ends on square i.
+// The board, as the rules have it show what they do. p is a player, i a square; MostraTratto and
+// NascondiTratto count the segment that ends on square i.
 class Tabellone {
  public:
   virtual ~Tabellone() = default;
@@ -54,7 +54,18 @@ class Tabellone {
   virtual void SvuotaGruzzolo(int /*p*/) {}
   virtual void ColoraGruzzoli(int /*colore1*/, int /*colore2*/) {}  // repaints both
 
-  // What a click on a portrait or a city puts out of the way.
+  // The surprise.
+  virtual void ScriviAnnuncio(std::string_view /*testo*/) {}
+  virtual void AvviaLampeggio() {}   // TimerSorpresa on
+  virtual void FermaLampeggio() {}   // TimerSorpresa off
+  virtual void ScambiaAnnuncio() {}  // label and oval: both hidden if the label shows, else shown
+};
+
+// What a click puts away on the board, and what brings it back.
+class Comandi {
+ public:
+  virtual ~Comandi() = default;
+
   virtual void EseguiEventi() {}   // lets pending events run
   virtual void SpegniTimer() {}    // TimerCitta, TimerPrimo(1), TimerPrimo(2)
   virtual void NascondiAiuto() {}  // CmdHelp
@@ -63,15 +74,6 @@ class Tabellone {
   virtual void RiposaRitratti() {}    // both portraits to their place and size at rest
   virtual void NascondiRitratti() {}  // portraits, words, arrows; thin frames
   virtual void NascondiAnnuncio() {}  // LblSorpresa and ShpOvale, without stopping the timer
-
-  // The surprise.
-  virtual void ScriviAnnuncio(std::string_view /*testo*/) {}
-  virtual void AvviaLampeggio() {}   // TimerSorpresa on
-  virtual void FermaLampeggio() {}   // TimerSorpresa off
-  virtual void ScambiaAnnuncio() {}  // label and oval: both hidden if the label shows, else shown
-
-  // Texts of Label2 and Label3 of the overlap dialog, before it is shown.
-  virtual void PreparaSovrapposizioni(std::string_view /*label2*/, std::string_view /*label3*/) {}
 };
 
 // Results of the system's question box.
@@ -111,6 +113,9 @@ class Schermi {
   virtual void MostraModale(Schermata) {}
   virtual void MostraNonModale(Schermata) {}
 
+  // Texts of Label2 and Label3 of the overlap dialog, before it is shown.
+  virtual void PreparaSovrapposizioni(std::string_view /*label2*/, std::string_view /*label3*/) {}
+
   // Ends the program at once. It may throw through the rules; where it returns, they do too.
   virtual void FineProgramma() {}
 };
@@ -140,6 +145,7 @@ struct Servizi {
   Servizi();
 
   Tabellone* tabellone;
+  Comandi* comandi;
   Cerimonia* cerimonia;
   Schermi* schermi;
   Suoni* suoni;

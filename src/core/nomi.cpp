@@ -46,4 +46,17 @@ std::string TroncaNome(std::string_view nome) {
   return intero.substr(0, taglio) + "...";
 }
 
+std::string Maiuscole(std::string_view testo) {
+  std::string esito;
+  while (!testo.empty()) Scrivi(utf8proc_toupper(Leggi(testo)), esito);
+  return esito;
+}
+
+std::string PrimaMaiuscola(std::string_view testo) {
+  if (testo.empty()) return {};
+  std::string esito;
+  Scrivi(utf8proc_totitle(Leggi(testo)), esito);
+  return esito.append(testo);
+}
+
 }  // namespace girovia

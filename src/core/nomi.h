@@ -1,3 +1,4 @@
+// What is done to words that come from outside or stand in capitals.
 #pragma once
 
 #include <string>
@@ -9,5 +10,9 @@ namespace girovia {
 // takes for one: letter with its accents, flag, family of emoji. Bytes that are no UTF-8 are
 // replaced by U+FFFD first.
 std::string TroncaNome(std::string_view nome);
+
+// By the rules of the script, accents and all. What is no UTF-8 becomes U+FFFD.
+std::string Maiuscole(std::string_view testo);
+std::string PrimaMaiuscola(std::string_view testo);
 
 }  // namespace girovia

@@ -1,5 +1,6 @@
 #include "core/premiazione.h"
 
+#include "content/catalogo.h"
 #include "content/testi.h"
 #include "core/gruzzolo.h"
 #include "core/interfacce.h"
@@ -73,7 +74,7 @@ int Vincitore() {
 int SorteggioPremioSpeciale(int ultimo) {
   int numero;
   do {
-    numero = Estrai(14);
+    numero = Estrai(kNumeroPremi);
   } while (numero == ultimo);
   return numero;
 }

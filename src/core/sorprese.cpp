@@ -50,9 +50,9 @@ void ProceduraSorpresa() {
 
 void TimerSorpresa_Timer() {
   Tabellone& tabellone = *servizi().tabellone;
-  if (++statoTabellone.ContaLampeggi > 29) {
+  if (++statoTabellone.ContaLampeggi >= kFineLampeggio) {
     tabellone.FermaLampeggio();
-    tabellone.NascondiAnnuncio();
+    servizi().comandi->NascondiAnnuncio();
   } else {
     tabellone.ScambiaAnnuncio();
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "content/atlante.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 
@@ -16,33 +17,31 @@ namespace {
 struct Urna {
   std::span<Flag> usati;
   int& conta;
-  int& indice;                   // where the screen looks for what was drawn
-  int ampiezza;                  // indices 0 to ampiezza - 1 are drawn
-  int ripartenza;                // the accepted draw that is dropped and starts the pool afresh
-  std::span<const int> esclusi;  // marked before the draw...
-  bool (*escludi)() = nullptr;   // ...if this says so, or always where there is none
+  int& indice;                     // where the screen looks for what was drawn
+  int ampiezza;                    // indices 0 to ampiezza - 1 are drawn
+  int ripartenza;                  // the accepted draw that is dropped and starts the pool afresh
+  bool (*escludi)(int) = nullptr;  // what counts as drawn already
 };
 
-bool GruzzoliPari() { return Gruzzolo[1] == Gruzzolo[2]; }
+// With equal purses levelling and swapping them would change nothing.
+bool CartaInutile(int i) { return i >= 2 && i <= 4 && Gruzzolo[1] == Gruzzolo[2]; }
 
-// With equal purses these two kinds of card, levelling and swapping, would change nothing.
-constexpr int kCarteInutili[] = {2, 3, 4};
-// Off the map of the trial: there is no button to click there.
-constexpr int kCittaFuoriMappa[] = {0, 20, 36, 54, 77, 78, 79, 80};
+// There is no button to click.
+bool CittaFuoriMappa(int i) { return !PostoSuMappa(MappaProva::Citta, i).visibile; }
 
 // The ranges and counts are the game's own, pool by pool; none follows from another.
 constexpr Urna kImprevisti{UsatiImprevisti, ContaImprevisti, IndiceImprevisto, 31, 29,
-                           kCarteInutili,   GruzzoliPari};
-constexpr Urna kOrdinamento{UsatiOrdinamento, ContaOrdinamento, IndiceOrdinamento, 9, 9, {}};
-constexpr Urna kCarte4{UsatiCarte4, ContaCarte4, IndiceCarte4, 41, 40, {}};
+                           CartaInutile};
+constexpr Urna kOrdinamento{UsatiOrdinamento, ContaOrdinamento, IndiceOrdinamento, 9, 9};
+constexpr Urna kCarte4{UsatiCarte4, ContaCarte4, IndiceCarte4, 41, 40};
 constexpr Urna kProvaCitta{UsatiProvaCitta, ContaProvaCitta, IndiceProvaCitta, 100, 90,
-                           kCittaFuoriMappa};
-constexpr Urna kProvaCapitali{
-    UsatiProvaCapitali, ContaProvaCapitali, IndiceProvaCapitali, 35, 34, {}};
+                           CittaFuoriMappa};
+constexpr Urna kProvaCapitali{UsatiProvaCapitali, ContaProvaCapitali, IndiceProvaCapitali, 35, 34};
 
 void SegnaEsclusi(const Urna& urna) {
-  if (urna.escludi != nullptr && !urna.escludi()) return;
-  for (int i : urna.esclusi) urna.usati[i] = Vero;
+  if (urna.escludi == nullptr) return;
+  for (int i = 0; i < urna.ampiezza; ++i)
+    if (urna.escludi(i)) urna.usati[std::size_t(i)] = Vero;
 }
 
 void Riparti(const Urna& urna) {

@@ -19,7 +19,7 @@ namespace {
 
 void PagaEAvanza(int g) {
   Tabellone& tabellone = *servizi().tabellone;
-  Gruzzolo[g] -= Euro::Interi(5);
+  Gruzzolo[g] -= Euro::Interi(kPedaggio);
   RicalcolaGruzzolo();
   ++Pos[g];
   tabellone.MostraTratto(g, Pos[g]);
@@ -42,11 +42,11 @@ void GestioneSovrapposizioni() {
   const int g = Giocatore;
   Messaggio.assign(NomeCasella(Pos[g])).append(" è già occupata.").append(kACapo);
   Messaggio += "Cosa vuoi fare?";
-  std::string avanti = "Pago 5 euro e vado a ";
+  std::string avanti = "Pago " + std::to_string(kPedaggio) + " euro e vado a ";
   std::string indietro = "Non pago niente e torno a ";
   avanti += NomeCasella(Pos[g] + 1);
   indietro += NomeCasella(Pos[g] - 1);
-  tabellone.PreparaSovrapposizioni(avanti, indietro);
+  servizi().schermi->PreparaSovrapposizioni(avanti, indietro);
   MostraModaleColore(Schermata::FormSovrapposizioni, Colore[g]);
   if (Risposta == 1) PagaEAvanza(g);
   if (Risposta == 2) Arretra(g);

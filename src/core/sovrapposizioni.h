@@ -3,6 +3,9 @@
 
 namespace girovia {
 
+// Whole euro to go on one square further.
+inline constexpr int kPedaggio = 5;
+
 // Both stand on one square after a move: the one who came pays to go on or goes back for nothing.
 void GestioneSovrapposizioni();
 

@@ -7,12 +7,15 @@
 
 namespace girovia {
 
+// A blink of the surprise that has counted this far ends at the next tick.
+inline constexpr int kFineLampeggio = 30;
+
 struct StatoTabellone {
   int PosPrecedente[3] = {};  // the square to which a failed trial sends a player back
   Flag TurnoInCorso = Falso;  // a throw or its resolution is under way
   Flag FaseCitta = Falso;     // phase of the pulse of the occupied squares
   int UltimaEtichetta = 0;    // the city label shown by hovering
-  int ContaLampeggi = 0;      // ticks of the surprise blink; 30 stops it at the next one
+  int ContaLampeggi = 0;      // ticks of the surprise blink
 };
 
 extern StatoTabellone statoTabellone;

@@ -36,7 +36,7 @@ FormRotazioneCarta::FormRotazioneCarta(Ambiente& ambiente)
 }
 
 void FormRotazioneCarta::Form_Activate() {
-  servizi().tabellone->NascondiUscita();
+  servizi().comandi->NascondiUscita();
   servizi().tabellone->Ridisegna();
   CatturaSchermo(*this);
   SuonoAsync("103");

@@ -1,5 +1,6 @@
 #include "screens/form_banconote.h"
 
+#include "comune/cornice.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 #include "screens/banconote_logica.h"
@@ -31,7 +32,7 @@ FormBanconote::FormBanconote(Ambiente& ambiente)
 void FormBanconote::Form_Load() {
   SuonoAsync("112");
   surface().Line(0, 200, 352, 200, {62, NumeroColore(Colore[Giocatore])});
-  DisegnaCornice();
+  DisegnaCornice(*this, kSmussoDialogo);
   cmdRisposta.SetPicture(a_.immagini.LoadResPicture(Ritratto[Giocatore]));
   TimerTitolo.SetEnabled(true);
   LblMessaggio.SetCaption(mod_Messaggi::Messaggio);
@@ -58,7 +59,7 @@ void FormBanconote::cmdRisposta_Click() {
   RitornoProva = Vero;
   for (int n : {1, 2}) a_.dadi->MostraDadi(n, false);
   Unload();
-  servizi().tabellone->MostraUscita();
+  servizi().comandi->MostraUscita();
 }
 
 }  // namespace girovia

@@ -67,7 +67,7 @@ void FormBonus::Timer1_Timer() {
 void FormBonus::cmdRisposta_Click() {
   RitornoProva = Vero;
   Unload();
-  servizi().tabellone->MostraUscita();
+  servizi().comandi->MostraUscita();
 }
 
 }  // namespace girovia

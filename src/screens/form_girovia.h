@@ -8,7 +8,10 @@
 
 namespace girovia {
 
-class FormGirovia : public platform::Form, public Tabellone, public DadiSulTabellone {
+class FormGirovia : public platform::Form,
+                    public Tabellone,
+                    public Comandi,
+                    public DadiSulTabellone {
  public:
   explicit FormGirovia(Ambiente& ambiente);
 
@@ -29,6 +32,12 @@ class FormGirovia : public platform::Form, public Tabellone, public DadiSulTabel
   void ScriviGruzzolo(int p, Euro valore) override;
   void SvuotaGruzzolo(int p) override;
   void ColoraGruzzoli(int colore1, int colore2) override;
+  void ScriviAnnuncio(std::string_view testo) override;
+  void AvviaLampeggio() override { TimerSorpresa.SetEnabled(true); }
+  void FermaLampeggio() override { TimerSorpresa.SetEnabled(false); }
+  void ScambiaAnnuncio() override;
+
+  // --- Comandi
   void EseguiEventi() override;
   void SpegniTimer() override;
   void NascondiAiuto() override { CmdHelp.SetVisible(false); }
@@ -37,19 +46,10 @@ class FormGirovia : public platform::Form, public Tabellone, public DadiSulTabel
   void RiposaRitratti() override;
   void NascondiRitratti() override;
   void NascondiAnnuncio() override;
-  void ScriviAnnuncio(std::string_view testo) override;
-  void AvviaLampeggio() override { TimerSorpresa.SetEnabled(true); }
-  void FermaLampeggio() override { TimerSorpresa.SetEnabled(false); }
-  void ScambiaAnnuncio() override;
-  void PreparaSovrapposizioni(std::string_view label2, std::string_view label3) override;
 
   // --- DadiSulTabellone
   platform::PictureBox& PicDado(int n) override { return n == 1 ? PicDado1 : PicDado2; }
   void MostraDadi(int n, bool visibile) override;
-
-  // The captions that PreparaSovrapposizioni left for the dialog.
-  const std::string& label2() const { return label2_; }
-  const std::string& label3() const { return label3_; }
 
  private:
   void RigheCaselle();
@@ -78,7 +78,6 @@ class FormGirovia : public platform::Form, public Tabellone, public DadiSulTabel
   platform::PictureBox PicDado1, PicDado2, PicDadoOmbra1, PicDadoOmbra2;
   platform::Timer TimerCitta, TimerPrimo[3], TimerSorpresa;
   platform::SizedPicture stella_;
-  std::string label2_, label3_;
 };
 
 }  // namespace girovia

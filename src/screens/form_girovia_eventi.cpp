@@ -1,9 +1,9 @@
 // The board's load, timers and clicks.
 #include "content/atlante.h"
+#include "core/eventi.h"
 #include "core/mod_Girovia.h"
 #include "core/sorprese.h"
 #include "core/stato.h"
-#include "core/tabellone.h"
 #include "screens/form_girovia.h"
 
 namespace girovia {
@@ -41,15 +41,15 @@ void FormGirovia::Form_Load() {
   TimerPrimo[2].SetEnabled(true);
 }
 
-void FormGirovia::Form_Activate() { tabellone::Form_Activate(); }
+void FormGirovia::Form_Activate() { eventi::Form_Activate(); }
 
-void FormGirovia::cmdRitratto_Click(int Index) { tabellone::cmdRitratto_Click(Index); }
+void FormGirovia::cmdRitratto_Click(int Index) { eventi::cmdRitratto_Click(Index); }
 
-void FormGirovia::cmdcitta_Click(int Index) { tabellone::cmdcitta_Click(Index); }
+void FormGirovia::cmdcitta_Click(int Index) { eventi::cmdcitta_Click(Index); }
 
-void FormGirovia::CmdHelp_Click() { tabellone::CmdHelp_Click(); }
+void FormGirovia::CmdHelp_Click() { eventi::CmdHelp_Click(); }
 
-void FormGirovia::cmdExit_Click() { tabellone::cmdExit_Click(); }
+void FormGirovia::cmdExit_Click() { eventi::cmdExit_Click(); }
 
 void FormGirovia::TimerSorpresa_Timer() { girovia::TimerSorpresa_Timer(); }
 

@@ -127,11 +127,6 @@ void FormGirovia::ScambiaAnnuncio() {
   ShpOvale.SetVisible(mostra);
 }
 
-void FormGirovia::PreparaSovrapposizioni(std::string_view label2, std::string_view label3) {
-  label2_ = label2;
-  label3_ = label3;
-}
-
 void FormGirovia::MostraDadi(int n, bool visibile) {
   (n == 1 ? PicDado1 : PicDado2).SetVisible(visibile);
   (n == 1 ? PicDadoOmbra1 : PicDadoOmbra2).SetVisible(visibile);

@@ -1,5 +1,6 @@
 #include "screens/form_messaggi.h"
 
+#include "comune/cornice.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 
@@ -27,7 +28,7 @@ FormMessaggi::FormMessaggi(Ambiente& ambiente)
 }
 
 void FormMessaggi::Form_Load() {
-  DisegnaCornice();
+  DisegnaCornice(*this, kSmussoDialogo);
   PreparaTitolo();
   TimerTitolo.SetEnabled(true);
   LblMessaggio.SetCaption(mod_Messaggi::Messaggio);
@@ -40,7 +41,7 @@ void FormMessaggi::cmdRisposta_Click(int Index) {
   mod_Girovia::RitornoProva = Vero;
   mod_Messaggi::Risposta = Index;
   Unload();
-  servizi().tabellone->MostraUscita();
+  servizi().comandi->MostraUscita();
 }
 
 }  // namespace girovia

@@ -1,5 +1,6 @@
 #include "screens/form_sovrapposizioni.h"
 
+#include "comune/cornice.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 
@@ -39,7 +40,7 @@ void FormSovrapposizioni::Form_Load() {
   const platform::Color colore = NumeroColore(mod_Messaggi::ColoreCornice);
   SetBackColor(colore);
   PicCornice.SetBackColor(colore);
-  DisegnaCornice();
+  DisegnaCornice(*this, kSmussoDialogo);
   PreparaTitolo();
   const auto ritratto = a_.immagini.LoadResPicture(mod_Girovia::Ritratto[mod_Girovia::Giocatore]);
   cmdRisposta(1).SetPicture(ritratto);
@@ -67,7 +68,7 @@ void FormSovrapposizioni::cmdRisposta_Click(int Index) {
   mod_Girovia::RitornoProva = Vero;
   mod_Messaggi::Risposta = Index;
   Unload();
-  servizi().tabellone->MostraUscita();
+  servizi().comandi->MostraUscita();
 }
 
 }  // namespace girovia

@@ -2,14 +2,15 @@
 
 #include <string_view>
 
+#include "core/nomi.h"
 #include "core/tipi.h"
 
 namespace girovia {
 namespace {
 
 // The game speaks Italian whatever the language of the machine is.
-constexpr std::string_view kGiorni[] = {"Domenica", "Lunedì",  "Martedì", "Mercoledì",
-                                        "Giovedì",  "Venerdì", "Sabato"};
+constexpr std::string_view kGiorni[] = {"domenica", "lunedì",  "martedì", "mercoledì",
+                                        "giovedì",  "venerdì", "sabato"};
 constexpr std::string_view kMesi[] = {"gennaio",   "febbraio", "marzo",    "aprile",
                                       "maggio",    "giugno",   "luglio",   "agosto",
                                       "settembre", "ottobre",  "novembre", "dicembre"};
@@ -21,7 +22,7 @@ std::string DueCifre(int n) {
 }
 
 std::string Data(const std::tm& ora) {
-  return std::string(kGiorni[ora.tm_wday]) + ", " + std::to_string(ora.tm_mday) + " " +
+  return PrimaMaiuscola(kGiorni[ora.tm_wday]) + ", " + std::to_string(ora.tm_mday) + " " +
          std::string(kMesi[ora.tm_mon]) + " " + std::to_string(1900 + ora.tm_year);
 }
 

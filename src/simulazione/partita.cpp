@@ -5,14 +5,15 @@
 
 #include "comune/premio_cadente.h"
 #include "content/quiz.h"
+#include "core/eventi.h"
 #include "core/imprevisti.h"
 #include "core/interfacce.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 #include "core/premiazione.h"
 #include "core/sorprese.h"
+#include "core/sovrapposizioni.h"
 #include "core/stato.h"
-#include "core/tabellone.h"
 #include "effects/dadi_logica.h"
 #include "screens/bonus_logica.h"
 #include "simulazione/controllore.h"
@@ -183,7 +184,7 @@ void Tavolo::Turno(int giocatore) {
   carta_ = -1;
   arrivato_ = giocatore;
   millisecondi_ += kClicRitratto;
-  tabellone::cmdRitratto_Click(giocatore);
+  eventi::cmdRitratto_Click(giocatore);
   controllore_.FineTurno(finita_);
   if (carta_ >= 0) {
     ContoCarta& conto = conti_.carte[static_cast<std::size_t>(carta_)];
@@ -195,7 +196,7 @@ void Tavolo::Turno(int giocatore) {
   const bool ancoraDado = carta_ >= 10 && carta_ <= 13;
   conti_.sorpreseSorteggiate += !finita_ && !ancoraDado && Pos[Giocatore] > 0;
   // Every announced surprise is claimed; one left over from the other player shows nothing.
-  if (conti_.sorpreseAnnunciate > annunciate) tabellone::cmdcitta_Click(Pos[Giocatore]);
+  if (conti_.sorpreseAnnunciate > annunciate) eventi::cmdcitta_Click(Pos[Giocatore]);
 }
 
 void Tavolo::ChiudiPartita(int turni, int primoAMuovere) {
@@ -227,7 +228,7 @@ void Tavolo::MostraModale(Schermata form) {
   } else {
     RitornoProva = Vero;
   }
-  tabellone::Form_Activate();
+  eventi::Form_Activate();
 }
 
 void Tavolo::Apri(Schermata form) {
@@ -293,14 +294,14 @@ void Tavolo::TiraDadi() {
   Dado = d1 + d2;
   controllore_.Attende(Euro::Interi(Dado));
   millisecondi_ += kPassoDadi * (kPassiDadi + 2 * std::max(d1, d2)) + kFineDadi;
-  tabellone::Form_Activate();
+  eventi::Form_Activate();
 }
 
 void Tavolo::Sovrapposizione() {
   millisecondi_ += kSceltaSovrapposizione;
   if (Capita(0.5)) {
     Risposta = 1;
-    controllore_.Attende(-Euro::Interi(5));
+    controllore_.Attende(-Euro::Interi(kPedaggio));
     ++conti_.sovrapposizioniPagate;
   } else {
     Risposta = 2;

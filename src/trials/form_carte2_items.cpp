@@ -80,7 +80,7 @@ void FormCarte2Items::Chiudi(int risposta) {
   RitornoProva = Vero;
   mod_Messaggi::Risposta = risposta;
   Unload();
-  servizi().tabellone->MostraUscita();
+  servizi().comandi->MostraUscita();
 }
 
 }  // namespace girovia

@@ -4,26 +4,14 @@
 #include <cstddef>
 #include <utility>
 
+#include "core/nomi.h"
+
 namespace girovia {
 namespace {
 
 constexpr std::size_t kCaratteriPrimaRiga = 29;
 
 int Arrotonda(double v) { return static_cast<int>(std::lrint(v)); }
-
-// Letters with accents are two bytes, the second of which tells small from capital.
-std::string Maiuscole(std::string_view testo) {
-  std::string esito(testo);
-  bool accento = false;
-  for (char& c : esito) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (accento ? byte >= 0xA0 && byte <= 0xBE && byte != 0xB7 : c >= 'a' && c <= 'z') {
-      c = static_cast<char>(byte - 0x20);
-    }
-    accento = byte == 0xC3;
-  }
-  return esito;
-}
 
 // Every line on this screen stands off the edge by a blank.
 std::string Riga(std::string_view testo, std::string_view coda) {

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "core/tabellone.h"
+#include "core/eventi.h"
 
 namespace girovia {
 
@@ -28,6 +28,7 @@ Mondo::Mondo() {
   servizi() = Servizi();
   Servizi& s = servizi();
   s.tabellone = this;
+  s.comandi = this;
   s.cerimonia = this;
   s.schermi = this;
   s.suoni = this;
@@ -45,7 +46,7 @@ Mondo::~Mondo() { servizi() = Servizi(); }
 
 void Mondo::Tira(int giocatore, int dado) {
   lancio = dado;
-  tabellone::cmdRitratto_Click(giocatore);
+  eventi::cmdRitratto_Click(giocatore);
 }
 
 std::string Mondo::Da(const std::string& inizio) const {
@@ -79,13 +80,13 @@ void Mondo::MostraModale(Schermata form) {
   } else {
     RitornoProva = form == Schermata::FormInfo ? Falso : Vero;
   }
-  tabellone::Form_Activate();
+  eventi::Form_Activate();
 }
 
 void Mondo::MostraNonModale(Schermata form) {
   Scrivi(NomeForm(form));
   Dado = lancio;
-  tabellone::Form_Activate();
+  eventi::Form_Activate();
 }
 
 void Mondo::FineProgramma() { throw FineDelGioco(); }

@@ -20,6 +20,7 @@
 namespace girovia {
 
 class Mondo : public Tabellone,
+              public Comandi,
               public Cerimonia,
               public Schermi,
               public Suoni,

@@ -1,8 +1,8 @@
 #include "core/sorprese.h"
 
 #include "content/testi.h"
+#include "core/eventi.h"
 #include "core/frasi.h"
-#include "core/tabellone.h"
 #include "mondo.h"
 
 namespace girovia {
@@ -87,7 +87,7 @@ TEST(Sorprese, UnaSorpresaReclamata) {
       EXPECT_EQ(ApriSorpresa(), caso.testo);
       EXPECT_EQ(SorpresaAperta, Vero);
     };
-    tabellone::cmdcitta_Click(5);
+    eventi::cmdcitta_Click(5);
     EXPECT_EQ(statoTabellone.ContaLampeggi, 30);
     EXPECT_EQ(SorpresaAperta, Falso);
     EXPECT_EQ(RitornoCitta, Falso);

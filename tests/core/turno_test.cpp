@@ -1,7 +1,7 @@
 #include "core/turno.h"
 
+#include "core/eventi.h"
 #include "core/sorprese.h"
-#include "core/tabellone.h"
 #include "mondo.h"
 
 namespace girovia {
@@ -214,33 +214,33 @@ void RinunciaAlPrimoTurno(Mondo& mondo, int giocatore) {
   EXPECT_EQ(statoTabellone.TurnoInCorso, Falso);
 }
 
-TEST(Tabellone, LeDomandePrimaDelPrimoLancioNonRisolvonoTurni) {
+TEST(Eventi, LeDomandePrimaDelPrimoLancioNonRisolvonoTurni) {
   Mondo mondo;
-  tabellone::Form_Activate();  // the board is first shown
+  eventi::Form_Activate();  // the board is first shown
   mondo.alla[Schermata::FormMessaggi] = [] {
     EXPECT_EQ(Messaggio, "Vuoi uscire dal gioco?");
     Risposta = 2;
   };
-  tabellone::cmdExit_Click();
+  eventi::cmdExit_Click();
   EXPECT_EQ(RitornoProva, Falso);
-  tabellone::CmdHelp_Click();
+  eventi::CmdHelp_Click();
   EXPECT_EQ(InfoDaPartita, Vero);
   // The start screen's question left its flag up; the board's first activation takes it down.
   RitornoProva = Vero;
-  tabellone::Form_Activate();
+  eventi::Form_Activate();
   EXPECT_EQ(mondo.righe, (std::vector<std::string>{"FormMessaggi", "FormInfo"}));
   EXPECT_EQ(Giocatore, 0);
   RinunciaAlPrimoTurno(mondo, 2);
 }
 
-TEST(Tabellone, LaPrimaCartolinaDaLaMossaAlPrimo) {
+TEST(Eventi, LaPrimaCartolinaDaLaMossaAlPrimo) {
   Mondo mondo;
   statoTabellone.TurnoInCorso = Vero;  // the cities are silent during a throw
-  tabellone::cmdcitta_Click(42);
+  eventi::cmdcitta_Click(42);
   EXPECT_TRUE(mondo.righe.empty());
   statoTabellone.TurnoInCorso = Falso;
   mondo.alla[Schermata::FormCitta] = [] { EXPECT_FALSE(CaricaCitta().pacco); };
-  tabellone::cmdcitta_Click(42);
+  eventi::cmdcitta_Click(42);
   EXPECT_EQ(CittaCliccata, 42);
   EXPECT_EQ(Giocatore, 1);
   EXPECT_EQ(mondo.Da("FormCitta"), "FormCitta AttivaTurno 1");

@@ -110,8 +110,8 @@ void Prepara(Schermata schermata, int n) {
       break;
     case Schermata::FormSovrapposizioni:
       Messaggio = citta + " è già occupata.\r\nCosa vuoi fare?";
-      servizi().tabellone->PreparaSovrapposizioni("Pago 5 euro e vado a " + citta,
-                                                  "Non pago niente e torno a " + citta);
+      servizi().schermi->PreparaSovrapposizioni("Pago 5 euro e vado a " + citta,
+                                                "Non pago niente e torno a " + citta);
       break;
     default:
       Messaggio =
@@ -137,7 +137,7 @@ class Forme : public testing::Test {
 
   // All that is open at the start. The help lies over a square until the first throw.
   static void ControllaAperte(Banco& banco, bool solito) {
-    servizi().tabellone->NascondiAiuto();
+    servizi().comandi->NascondiAiuto();
     for (const Form* form : banco.gioco.screen().forms()) Controlla(*form, solito);
   }
 

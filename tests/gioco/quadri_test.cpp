@@ -57,8 +57,8 @@ const Quadro kQuadri[] = {
      [](Banco&) {
        Turno(2, 3);
        mod_Messaggi::Messaggio = "Stoccarda è già occupata.\r\nCosa vuoi fare?";
-       servizi().tabellone->PreparaSovrapposizioni("Pago 5 euro e vado a Helsinki",
-                                                   "Non pago niente e torno a Zurigo");
+       servizi().schermi->PreparaSovrapposizioni("Pago 5 euro e vado a Helsinki",
+                                                 "Non pago niente e torno a Zurigo");
        servizi().schermi->MostraModale(Schermata::FormSovrapposizioni);
      }},
     {"bonus", 2,

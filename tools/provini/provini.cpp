@@ -106,7 +106,7 @@ std::vector<Provino> DelGioco(const std::string& cartella, int scala) {
   using namespace mod_Girovia;
   Pos[1] = 3;
   Pos[2] = 28;
-  gioco.tabellone()->PreparaSovrapposizioni("Pago 5 euro e vado a Dniepropetrovsk",
+  servizi().schermi->PreparaSovrapposizioni("Pago 5 euro e vado a Dniepropetrovsk",
                                             "Non pago niente e torno a S.Pietroburgo");
   for (const auto& [schermata, suo] : kSchermate) {
     nome = suo;

@@ -1,4 +1,4 @@
-#include "core/tabellone.h"
+#include "core/eventi.h"
 
 #include "content/testi.h"
 #include "core/gruzzolo.h"
@@ -9,19 +9,16 @@
 #include "core/stato.h"
 #include "core/turno.h"
 
-namespace girovia::tabellone {
+namespace girovia::eventi {
 
 using namespace mod_Girovia;
 using namespace mod_Messaggi;
 
 namespace {
 
-// A blink that has counted this far ends at the next tick.
-constexpr int kFineLampeggio = 30;
-
-void SgombraRitratti(Tabellone& board) {
-  board.NascondiRitratti();
-  board.NascondiAnnuncio();
+void SgombraRitratti(Comandi& comandi) {
+  comandi.NascondiRitratti();
+  comandi.NascondiAnnuncio();
   statoTabellone.ContaLampeggi = kFineLampeggio;
 }
 
@@ -46,13 +43,14 @@ void Form_Activate() {
 
 void cmdRitratto_Click(int indice) {
   Tabellone& board = *servizi().tabellone;
+  Comandi& comandi = *servizi().comandi;
   Giocatore = indice;
-  board.SpegniTimer();
+  comandi.SpegniTimer();
   statoTabellone.TurnoInCorso = Vero;
-  board.NascondiAiuto();
-  board.NascondiUscita();
-  board.RiposaRitratti();
-  SgombraRitratti(board);
+  comandi.NascondiAiuto();
+  comandi.NascondiUscita();
+  comandi.RiposaRitratti();
+  SgombraRitratti(comandi);
   // The start keeps the size at which its pulse stopped.
   for (int p = 1; p <= 2; ++p) {
     if (Pos[p] > 0) board.RiduciCasella(Pos[p]);
@@ -64,13 +62,14 @@ void cmdRitratto_Click(int indice) {
 void cmdcitta_Click(int indice) {
   if (statoTabellone.TurnoInCorso == Vero) return;
   Tabellone& board = *servizi().tabellone;
-  board.EseguiEventi();
+  Comandi& comandi = *servizi().comandi;
+  comandi.EseguiEventi();
   if (statoTabellone.TurnoInCorso == Vero) return;  // one of those events was a throw
   SuonoAsync("104");
-  board.SpegniTimer();
-  board.NascondiAiuto();
-  board.NascondiUscita();
-  SgombraRitratti(board);
+  comandi.SpegniTimer();
+  comandi.NascondiAiuto();
+  comandi.NascondiUscita();
+  SgombraRitratti(comandi);
   board.RiduciCasella(Pos[1]);
   board.RiduciCasella(Pos[2]);
   board.Ridisegna();
@@ -80,8 +79,8 @@ void cmdcitta_Click(int indice) {
 }
 
 void CmdHelp_Click() {
-  servizi().tabellone->NascondiAiuto();
-  servizi().tabellone->NascondiUscita();
+  servizi().comandi->NascondiAiuto();
+  servizi().comandi->NascondiUscita();
   InfoDaPartita = Vero;
   MostraModale(Schermata::FormInfo);
 }
@@ -92,8 +91,8 @@ void cmdExit_Click() {
   if (Risposta == 1) {
     servizi().schermi->FineProgramma();
   } else {
-    servizi().tabellone->MostraUscita();
+    servizi().comandi->MostraUscita();
   }
 }
 
-}  // namespace girovia::tabellone
+}  // namespace girovia::eventi

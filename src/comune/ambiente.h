@@ -45,11 +45,21 @@ class DadiSulTabellone {
   virtual void MostraDadi(int n, bool visibile) = 0;  // PicDado(n) and its shadow
 };
 
+// The start screen, as the dialogs opened over it see it when they close.
+class SchermataIniziale {
+ public:
+  virtual ~SchermataIniziale() = default;
+  virtual bool InnoInCorso() = 0;  // TimInno is enabled: clicks make no sound
+  // Shows the buttons, the names and the galleries again, without their shadows, and comes forward.
+  virtual void TornaDallaDomanda() = 0;
+};
+
 struct Ambiente {
   platform::Screen& screen;
   Immagini& immagini;
   platform::HandPointers mani;
-  DadiSulTabellone* dadi = nullptr;  // set by the board
+  DadiSulTabellone* dadi = nullptr;       // set by the board
+  SchermataIniziale* iniziale = nullptr;  // set by the start screen, null when the board is up
 };
 
 inline platform::Font Verdana(double punti, bool grassetto = false) {

@@ -2,23 +2,9 @@
 
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
+#include "platform/forms/shade.h"
 
 namespace platform {
-namespace {
-
-// Lightens (amount > 0) or darkens a colour by a part of the way to white or black.
-Color Shade(Color color, double amount) {
-  Color out = 0;
-  for (int shift = 0; shift < 24; shift += 8) {
-    const double c = double(color >> shift & 0xFF);
-    const double to = amount > 0 ? c + (255 - c) * amount : c * (1 + amount);
-    out |= Color(to + 0.5) << shift;
-  }
-  return out;
-}
-
-}  // namespace
-
 void CommandButton::Apply(const Look& look) {
   picture_ = look.picture;
   back_ = look.back;
@@ -53,14 +39,14 @@ bool CommandButton::TextFits() const {
   return size.width <= box.width && size.height <= box.height;
 }
 
-void CommandButton::Paint(Surface& surface) {
+void CommandButton::PaintButton(Surface& surface, bool down) const {
   const double w = place_.width, h = place_.height;
   const bool small = h < 24;
   const double edge = small ? 1 : 2;
-  surface.FillRect({0, 0, w, h}, Shade(back_, pressed_ ? -0.5 : -0.35));
-  surface.FillRect({0, 0, w - edge, h - edge}, pressed_ ? Shade(back_, -0.4) : Shade(back_, 0.6));
+  surface.FillRect({0, 0, w, h}, Shade(back_, down ? -0.5 : -0.35));
+  surface.FillRect({0, 0, w - edge, h - edge}, down ? Shade(back_, -0.4) : Shade(back_, 0.6));
   surface.FillRect({edge, edge, w - 2 * edge, h - 2 * edge}, back_);
-  const double shift = pressed_ ? 1 : 0;
+  const double shift = down ? 1 : 0;
 
   const DeviceRect outer = surface.clip();
   const Point o = surface.origin();

@@ -94,7 +94,7 @@ class Control {
 
   void MouseMove(const MouseArgs& args);
   void MouseDown(const MouseArgs& args);
-  void Click();
+  virtual void Click();
   void SetPressed(bool pressed);
   bool pressed() const { return pressed_; }
 

@@ -22,9 +22,12 @@ class CommandButton : public Control {
   const SizedPicture& picture() const { return picture_; }
   void SetBackColor(Color color);
   Color backColor() const { return back_; }
-  void Paint(Surface& surface) override;
+  void Paint(Surface& surface) override { PaintButton(surface, pressed_); }
   std::string_view text() const override { return caption_; }
   bool TextFits() const override;
+
+ protected:
+  void PaintButton(Surface& surface, bool down) const;
 
  private:
   Rect CaptionBox() const;
@@ -32,6 +35,30 @@ class CommandButton : public Control {
   Color back_ = colors::kButtonFace;
   std::string caption_;
   Font font_;
+};
+
+// A button that stays down once chosen, until another one of its container is.
+class OptionButton : public CommandButton {
+ public:
+  struct Look {
+    Color back = colors::kButtonFace;
+    Font font = {};
+    SizedPicture picture = {};
+    std::string caption = "";
+    bool value = false;
+    bool visible = true;
+    std::string toolTip = "";
+    const HandPointers* hand = nullptr;
+    bool focusOnMove = false;
+  };
+  void Apply(const Look& look);
+  bool value() const { return value_; }
+  void SetValue(bool value);  // no event
+  void Click() override;
+  void Paint(Surface& surface) override;
+
+ private:
+  bool value_ = false;
 };
 
 class Label : public Control {
@@ -57,6 +84,12 @@ class Label : public Control {
   Color foreColor() const { return style_.color; }
   void SetFont(const Font& font);
   double drawnPoints() const { return style_.font.points; }
+  void SetWrap(bool wrap);
+  // Sizes itself from now on, or keeps the size that it has. One that wraps breaks its lines at the
+  // width that it had, and then takes that of the widest.
+  void SetAutoSize(bool autoSize);
+  // Draws both texts, as they are now, in the smaller of the two sizes in which they fit.
+  friend void SetInOneSize(Label& a, Label& b);
   void Move(const Rect& place) override;
   bool windowed() const override { return false; }
   void Paint(Surface& surface) override;
@@ -67,6 +100,8 @@ class Label : public Control {
   // A text too long for its box is set in a smaller size: a child can read small letters, but not
   // letters that are cut off.
   void Layout();
+  void SetAnchor();
+  double WidestWord() const;
 
   std::string caption_;
   Font font_;        // as asked for
@@ -75,7 +110,8 @@ class Label : public Control {
   bool transparent_ = true;
   bool autoSize_ = false;
   double maxWidth_ = 0;
-  double anchor_ = 0;  // x of the edge or middle that stays when the label sizes itself
+  double wrapWidth_ = 0;  // of one that wraps and sizes itself
+  double anchor_ = 0;     // x of the edge or middle that stays when the label sizes itself
 };
 
 // A drawing surface of its own that may hold other controls.
@@ -97,6 +133,14 @@ class PictureBox : public Control {
   void Cls();
   // The persistent surface, of the size inside the border.
   Surface& surface();
+
+  // Prints a line at the print position, which then goes back to x = 0, one line down. Cls sets it
+  // to 0, 0.
+  void Print(std::string_view line);
+  void SetPrintAt(double x, double y) { printAt_ = {x, y}; }
+  void SetPrintFont(const Font& font) { printFont_ = font; }
+  void SetForeColor(Color color) { fore_ = color; }
+
   int innerWidth() const { return int(place_.width) - 2 * inset(); }
   int innerHeight() const { return int(place_.height) - 2 * inset(); }
   void Move(const Rect& place) override;
@@ -105,12 +149,39 @@ class PictureBox : public Control {
 
  private:
   int inset() const { return border_ ? 1 : 0; }
+  void Restore();  // colour and picture
   Surface surface_;
   Color back_ = colors::kButtonFace;
+  Color fore_ = colors::kBlack;
+  Font printFont_;
+  Point printAt_;
   bool border_ = false;
   bool autoSize_ = false;
   bool sprite_ = false;
   SizedPicture picture_;
+};
+
+// Holds other controls inside a border with a caption set into it; without a border it is a plain
+// rectangle. Children count from its outer corner.
+class Frame : public Control {
+ public:
+  struct Look {
+    std::string caption = "";
+    Font font = {};
+    Color back = colors::kButtonFace;
+    Color fore = colors::kBlack;
+    bool border = true;
+    bool visible = true;
+  };
+  void Apply(const Look& look);
+  void SetBackColor(Color color);
+  Color backColor() const { return look_.back; }
+  void Paint(Surface& surface) override;
+  std::string_view text() const override { return look_.caption; }
+  bool TextFits() const override;
+
+ private:
+  Look look_;
 };
 
 // Stretches its picture to its place.

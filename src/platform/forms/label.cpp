@@ -13,11 +13,16 @@ void Label::Apply(const Look& look) {
   autoSize_ = look.autoSize;
   maxWidth_ = look.maxWidth;
   visible_ = look.visible;
-  anchor_ = place_.left + (look.align == Align::Left    ? 0
-                           : look.align == Align::Right ? place_.width
-                                                        : place_.width / 2);
+  SetAnchor();
+  wrapWidth_ = place_.width;
   caption_ = look.caption;
   Layout();
+}
+
+void Label::SetAnchor() {
+  anchor_ = place_.left + (style_.align == Align::Left    ? 0
+                           : style_.align == Align::Right ? place_.width
+                                                          : place_.width / 2);
 }
 
 void Label::SetCaption(std::string caption) {
@@ -40,9 +45,39 @@ void Label::SetFont(const Font& font) {
   Invalidate();
 }
 
+void Label::SetWrap(bool wrap) {
+  if (wrap == style_.wrap) return;
+  Invalidate();
+  style_.wrap = wrap;
+  Layout();
+  Invalidate();
+}
+
+void Label::SetAutoSize(bool autoSize) {
+  if (autoSize == autoSize_) return;
+  Invalidate();
+  autoSize_ = autoSize;
+  Layout();
+  Invalidate();
+}
+
 void Label::Move(const Rect& place) {
-  anchor_ += place.left - place_.left;
+  const bool wider = place.width != place_.width;
+  const bool resized = wider || place.height != place_.height;
   Control::Move(place);
+  SetAnchor();
+  if (wider) wrapWidth_ = place.width;
+  if (resized && !autoSize_) Layout();
+}
+
+void SetInOneSize(Label& a, Label& b) {
+  a.Layout();
+  b.Layout();
+  const double points = std::min(a.drawnPoints(), b.drawnPoints());
+  for (Label* label : {&a, &b}) {
+    label->style_.font.points = points;
+    label->Invalidate();
+  }
 }
 
 void Label::Layout() {
@@ -52,16 +87,17 @@ void Label::Layout() {
     while (!TextFits() && style_.font.points > kSmallest) style_.font.points -= 0.25;
     return;
   }
-  double width = TextWidth(style_.font, caption_);
-  while (maxWidth_ > 0 && width > maxWidth_ && style_.font.points > kSmallest) {
+  // Wrapped lines fit by themselves, unless a single word does not.
+  const double limit = style_.wrap ? wrapWidth_ : maxWidth_;
+  const auto drawnWidth = [&] {
+    return style_.wrap ? WidestWord() : TextWidth(style_.font, caption_);
+  };
+  while (limit > 0 && drawnWidth() > limit && style_.font.points > kSmallest)
     style_.font.points -= 0.25;
-    width = TextWidth(style_.font, caption_);
-  }
-  width = std::ceil(width);
-  if (maxWidth_ > 0) width = std::min(width, maxWidth_);
+  const TextSize size = MeasureText(caption_, style_, limit);
+  const double width = limit > 0 ? std::min(size.width, limit) : size.width;
   // The height is that of the font asked for, so that the line stays where it was.
-  const double lines =
-      caption_.empty() ? 1 : MeasureText(caption_, style_, width).height / LineHeight(style_.font);
+  const double lines = caption_.empty() ? 1 : size.height / LineHeight(style_.font);
   Rect place = place_;
   place.width = width;
   place.height = std::max(1.0, lines) * LineHeight(font_);
@@ -71,15 +107,21 @@ void Label::Layout() {
   place_ = place;
 }
 
+double Label::WidestWord() const {
+  double widest = 0;
+  for (std::size_t from = 0; from < caption_.size();) {
+    const std::size_t to = std::min(caption_.find_first_of(" \r\n", from), caption_.size());
+    widest = std::max(widest,
+                      TextWidth(style_.font, std::string_view(caption_).substr(from, to - from)));
+    from = to + 1;
+  }
+  return widest;
+}
+
 bool Label::TextFits() const {
   if (caption_.empty()) return true;
   // A word broken at the edge of the box would fit too, but not please.
-  for (std::size_t from = 0; style_.wrap && from < caption_.size();) {
-    const std::size_t to = std::min(caption_.find_first_of(" \r\n", from), caption_.size());
-    if (TextWidth(style_.font, std::string_view(caption_).substr(from, to - from)) > place_.width)
-      return false;
-    from = to + 1;
-  }
+  if (style_.wrap && WidestWord() > place_.width) return false;
   const auto size = MeasureText(caption_, style_, place_.width);
   return size.width <= place_.width && size.height <= place_.height;
 }

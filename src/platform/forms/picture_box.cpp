@@ -14,11 +14,23 @@ void PictureBox::Apply(const Look& look) {
 }
 
 Surface& PictureBox::surface() {
-  if (surface_.width() != innerWidth() || surface_.height() != innerHeight()) Cls();
+  if (surface_.width() != innerWidth() || surface_.height() != innerHeight()) Restore();
   return surface_;
 }
 
 void PictureBox::Cls() {
+  printAt_ = {};
+  Restore();
+}
+
+void PictureBox::Print(std::string_view line) {
+  surface().TextOut(printAt_.x, printAt_.y, line, printFont_, fore_);
+  const TextSize size = MeasureText(line, {printFont_, fore_, Align::Left, false}, 0);
+  printAt_ = {0, printAt_.y + size.height};
+  Invalidate();
+}
+
+void PictureBox::Restore() {
   if (picture_ && picture_.width == innerWidth() && picture_.height == innerHeight()) {
     surface_ = picture_.picture->Fit(picture_.width, picture_.height, scale(),
                                      sprite_ ? colors::kWhite : back_, sprite_);
@@ -35,7 +47,7 @@ void PictureBox::SetPicture(const SizedPicture& picture) {
   if (autoSize_ && picture)
     Control::Move({place_.left, place_.top, double(picture.width + 2 * inset()),
                    double(picture.height + 2 * inset())});
-  Cls();
+  Restore();
 }
 
 void PictureBox::SetBorder(bool border) {
@@ -50,13 +62,13 @@ void PictureBox::SetBorder(bool border) {
 
 void PictureBox::SetBackColor(Color color) {
   back_ = color;
-  Cls();
+  Restore();
 }
 
 void PictureBox::Move(const Rect& place) {
   const bool resized = place.width != place_.width || place.height != place_.height;
   Control::Move(place);
-  if (resized && surface_.width() > 0) Cls();
+  if (resized && surface_.width() > 0) Restore();
 }
 
 void PictureBox::Paint(Surface& target) {

@@ -66,6 +66,14 @@ std::uint32_t Average(const std::uint16_t* from, const std::uint32_t* weights, P
 #endif
 }
 
+// Adds two rows up by their weights, shifted: nearly every row of a window is made of one or two.
+void Down(std::uint16_t* line, const std::uint8_t* a, const std::uint8_t* b, int weightA,
+          int weightB, int bytes) {
+  const auto wa = static_cast<std::uint16_t>(weightA), wb = static_cast<std::uint16_t>(weightB);
+  for (int i = 0; i < bytes; ++i)
+    line[i] = static_cast<std::uint16_t>(a[i] * wa + b[i] * wb + kShift);
+}
+
 }  // namespace
 
 Reducer::Reducer(int sourceWidth, int sourceHeight, int targetWidth, int targetHeight)
@@ -131,15 +139,15 @@ void Reducer::Run(const std::uint32_t* source, int sourceStride, std::uint32_t* 
   for (int y = r.top; y < r.bottom; ++y) {
     const Span& rows = rows_[y];
     std::uint16_t* const line = line_.data();
-    for (int i = 0; i < rows.count; ++i) {
-      const auto* from = reinterpret_cast<const std::uint8_t*>(sourceRow(rows.first + i) + first);
-      const std::uint16_t weight = rowWeights_[rows.weight + i];
-      if (i == 0)
-        for (int b = 0; b < bytes; ++b)
-          line[b] = static_cast<std::uint16_t>(from[b] * weight + kShift);
-      else
-        for (int b = 0; b < bytes; ++b)
-          line[b] = static_cast<std::uint16_t>(line[b] + from[b] * weight);
+    const auto row = [&](int i) {
+      return reinterpret_cast<const std::uint8_t*>(sourceRow(rows.first + i) + first);
+    };
+    const auto weight = [&](int i) { return i < rows.count ? rowWeights_[rows.weight + i] : 0; };
+    Down(line, row(0), row(rows.count > 1 ? 1 : 0), weight(0), weight(1), bytes);
+    for (int i = 2; i < rows.count; ++i) {
+      const auto* from = row(i);
+      const auto w = static_cast<std::uint16_t>(weight(i));
+      for (int b = 0; b < bytes; ++b) line[b] = static_cast<std::uint16_t>(line[b] + from[b] * w);
     }
     std::uint32_t* to = targetRow(y);
     const auto across = [&](auto pairs) {

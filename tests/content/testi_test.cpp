@@ -14,32 +14,6 @@ namespace {
 
 using testing::ElementsAre;
 
-TEST(Testi, OddTextsStandAsWritten) {
-  const struct {
-    int id;
-    std::string_view testo;
-  } kCasi[] = {
-      {5, "Bologna è il capoluogo dell'Emiila-Romagna*1"},
-      {144, "Copenhagenè la capitale della Norvegia*2"},
-      {189, "Podgorica  è la capitale del Kossovo*2"},
-      {210, "Berna  è attraversata dal fiume AAre*1"},
-      {345, "Goteborg si affaccia su un tratto di mare chiamato \"la Manica\"*2"},
-      {400, "La Valletta: panorama dal mare"},
-      {435, "Glasgow: l'auditorium \"Clyde\" (detto l'\"Armadillo\")"},
-      {479, "Baku: palazzo del Governo dell'Azerbaijan "},
-      {503, " euro e torni a "},
-      {610, "Clicca le tre città che si affacciano sul mare Mediterraneo"},
-      {620, "Clicca le tre città più popolose d'Europa: "},
-      {998, "x"},
-      {999, "IMPREVISTI*****************************"},
-      {1018, "TASSA \"UNA TANTUM\" SUI CONTI CORRENTI"},
-      {1074, " riceve 1 euro da ogni città del Rgno Unito presente in Girovia."},
-      {1090, "ASSICURAZIONE SANITARIA OBBLIGATORIA "},
-      {1092, "Il prezzo è di 10 euro per ogni giocatore."},
-  };
-  for (const auto& caso : kCasi) EXPECT_EQ(LoadResString(caso.id), caso.testo) << caso.id;
-}
-
 TEST(Testi, TableHasItsNumbersAndNoOthers) {
   const auto prevista = [](int id) {
     return (id >= 0 && id <= 507) || id == 510 || (id >= 600 && id <= 809) ||

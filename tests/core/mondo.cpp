@@ -1,6 +1,7 @@
 #include "mondo.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "core/eventi.h"
 
@@ -15,7 +16,7 @@ std::string NomeForm(Schermata form) {
   std::istringstream nomi(
       "Dadi FormBanconote FormBonus FormCarte2Items FormCarte4Items FormCitta FormImprevisti "
       "FormInfo FormMessaggi FormPremiazione FormProvaCapitali FormProvaCitta FormProvaOrdinamento "
-      "FormProvaPuzzle FormRotazioneCarta FormSovrapposizioni");
+      "FormProvaPuzzle FormRotazioneCarta FormSovrapposizioni Splash");
   std::string nome;
   for (int i = 0; i <= static_cast<int>(form); ++i) nomi >> nome;
   return nome;
@@ -49,20 +50,33 @@ void Mondo::Tira(int giocatore, int dado) {
   eventi::cmdRitratto_Click(giocatore);
 }
 
-std::string Mondo::Da(const std::string& inizio) const {
-  auto prima = inizio.empty() ? righe.begin() : righe.end();
-  while (prima != righe.begin()) {
-    if ((--prima)->starts_with(inizio)) break;
+std::string Mondo::Verbale() {
+  std::ostringstream su;
+  for (const std::string& riga : righe) {
+    for (const char c : riga) {
+      if (c == '\n') su << "/ ";
+      if (c != '\n' && c != '\r') su << c;
+    }
+    su << '\n';
   }
-  std::string testo;
-  for (; prima != righe.end(); ++prima) testo.append(testo.empty() ? "" : " ").append(*prima);
-  return testo;
-}
-
-int Mondo::Conta(const std::string& inizio) const {
-  int quante = 0;
-  for (const std::string& riga : righe) quante += riga.starts_with(inizio);
-  return quante;
+  su << "= tocca a " << Giocatore;
+  for (int p : {1, 2})
+    su << "; " << Pos[p] << " (da " << statoTabellone.PosPrecedente[p] << ") con "
+       << Gruzzolo[p].decimillesimi() << " contati da " << GruzzoloPrima[p].decimillesimi();
+  const std::pair<const char*, int> segni[] = {{"Sorpresa", Sorpresa},
+                                               {"ArrivoRaggiunto", ArrivoRaggiunto},
+                                               {"TurnoInCorso", statoTabellone.TurnoInCorso},
+                                               {"RitornoProva", RitornoProva},
+                                               {"RitornoCitta", RitornoCitta},
+                                               {"SorpresaAperta", SorpresaAperta},
+                                               {"InfoDaPartita", InfoDaPartita},
+                                               {"ContaLampeggi", statoTabellone.ContaLampeggi}};
+  for (const auto& [nome, valore] : segni)
+    if (valore != 0) su << "; " << nome << ' ' << valore;
+  su << (sorti.empty() ? "\n" : "; numeri avanzati\n");
+  righe.clear();
+  sorti.clear();
+  return su.str();
 }
 
 int Mondo::Chiedi(std::string_view titolo, std::string_view testo) {
@@ -73,7 +87,7 @@ int Mondo::Chiedi(std::string_view titolo, std::string_view testo) {
 }
 
 void Mondo::MostraModale(Schermata form) {
-  Scrivi(NomeForm(form));
+  Scrivi(NomeForm(form), Messaggio);
   if (const auto azione = alla.find(form); azione != alla.end()) azione->second();
   if (form == Schermata::FormCitta) {
     RitornoCitta = Vero;
@@ -89,7 +103,10 @@ void Mondo::MostraNonModale(Schermata form) {
   eventi::Form_Activate();
 }
 
-void Mondo::FineProgramma() { throw FineDelGioco(); }
+void Mondo::FineProgramma() {
+  Scrivi("Fine");
+  throw FineDelGioco();
+}
 
 double Mondo::Rnd() {
   if (generatore) return generatore();

@@ -1,5 +1,6 @@
 // A world for the rules to run in: its screens answer from a script, its dice and draws come from
-// queues, and all that the rules ask of it is written down.
+// queues, and every call that the rules make is written down, with what a screen can read as it
+// opens.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -45,9 +46,8 @@ class Mondo : public Tabellone,
   std::deque<int> uscite;  // answers of the question box
   int lancio = 0;
 
-  // The transcript from the last line that starts so, joined by blanks; all of it for no start.
-  std::string Da(const std::string& inizio) const;
-  int Conta(const std::string& inizio) const;
+  // Everything so far, a line each, with the state of the game at the end; and begins afresh.
+  std::string Verbale();
 
  private:
   template <class... Pezzi>
@@ -72,16 +72,27 @@ class Mondo : public Tabellone,
   }
   void ScriviGruzzolo(int p, Euro valore) override { Scrivi("Scrivi", p, TestoImporto(valore)); }
   void ColoraGruzzoli(int uno, int due) override { Scrivi("Colori", uno, due); }
-  void EseguiEventi() override { Scrivi("Eventi"); }
-  void NascondiAnnuncio() override { Scrivi("NascondiAnnuncio"); }
+  void SvuotaGruzzolo(int p) override { Scrivi("Svuota", p); }
   void ScriviAnnuncio(std::string_view testo) override { Scrivi("Annuncio", testo); }
   void AvviaLampeggio() override { Scrivi("AvviaLampeggio"); }
   void FermaLampeggio() override { Scrivi("FermaLampeggio"); }
   void ScambiaAnnuncio() override { Scrivi("ScambiaAnnuncio"); }
-  void PreparaSovrapposizioni(std::string_view label2, std::string_view label3) override {
-    Scrivi("Scelta", label2, "|", label3);
-  }
 
+  void EseguiEventi() override { Scrivi("Eventi"); }
+  void SpegniTimer() override { Scrivi("SpegniTimer"); }
+  void NascondiAiuto() override { Scrivi("NascondiAiuto"); }
+  void NascondiUscita() override { Scrivi("NascondiUscita"); }
+  void MostraUscita() override { Scrivi("MostraUscita"); }
+  void RiposaRitratti() override { Scrivi("RiposaRitratti"); }
+  void NascondiRitratti() override { Scrivi("NascondiRitratti"); }
+  void NascondiAnnuncio() override { Scrivi("NascondiAnnuncio"); }
+
+  void SgombraTabellone() override { Scrivi("Sgombra"); }
+  void NascondiPercorso() override { Scrivi("NascondiPercorso"); }
+  void TingiTabellone() override { Scrivi("Tingi"); }
+  void MostraCorona() override { Scrivi("Corona"); }
+  void MostraVincitore(int ritratto) override { Scrivi("Vincitore", ritratto); }
+  void SalvaSfondoPremio() override { Scrivi("SalvaSfondo"); }
   void MostraTrofeo() override { Scrivi("Trofeo"); }
   void MostraBanconota500(int p) override { Scrivi("Banconota500", p); }
   void MostraBanconota50(int p) override { Scrivi("Banconota50", p); }
@@ -90,6 +101,9 @@ class Mondo : public Tabellone,
   void MostraCongratulazioni() override { Scrivi("Congratulazioni"); }
   int Chiedi(std::string_view titolo, std::string_view testo) override;
 
+  void PreparaSovrapposizioni(std::string_view label2, std::string_view label3) override {
+    Scrivi("Scelta", label2, "|", label3);
+  }
   void MostraModale(Schermata form) override;
   void MostraNonModale(Schermata form) override;
   void FineProgramma() override;

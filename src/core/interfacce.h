@@ -24,9 +24,10 @@ enum class Schermata {
   FormProvaPuzzle,
   FormRotazioneCarta,
   FormSovrapposizioni,
+  Splash,
 };
 
-inline constexpr int kNumeroSchermate = int(Schermata::FormSovrapposizioni) + 1;
+inline constexpr int kNumeroSchermate = int(Schermata::Splash) + 1;
 
 // The board, as the rules have it show what they do. p is a player, i a square; MostraTratto and
 // NascondiTratto count the segment that ends on square i.
@@ -112,6 +113,8 @@ class Schermi {
   // Returns when the screen has closed, and with it the chain of the board's activation has run.
   virtual void MostraModale(Schermata) {}
   virtual void MostraNonModale(Schermata) {}
+  // The players are ready: the board comes, not modally, and stays to the end.
+  virtual void ApriTabellone() {}
 
   // Texts of Label2 and Label3 of the overlap dialog, before it is shown.
   virtual void PreparaSovrapposizioni(std::string_view /*label2*/, std::string_view /*label3*/) {}

@@ -18,11 +18,12 @@ inline constexpr int kUrne = 5;
 inline constexpr std::array<const char*, kUrne> kNomiUrne = {"imprevisti", "ordinamento", "carte4",
                                                              "prova_citta", "prova_capitali"};
 
-enum class Regola { Casella, Stato, Denaro, Indice, Ripetizione, Fine };
-inline constexpr int kRegole = 6;
+enum class Regola { Casella, Mossa, Alternanza, Stato, Denaro, Indice, Ripetizione, Fine };
+inline constexpr int kRegole = 8;
 inline constexpr std::array<const char*, kRegole> kNomiRegole = {
-    "casella fuori dal percorso",  "stato a fine turno",    "denaro che non torna",
-    "indice fuori dalla sua urna", "ripetizione nell'urna", "partita senza fine"};
+    "casella fuori dal percorso", "mossa che non torna",  "turno di un altro",
+    "stato a fine turno",         "denaro che non torna", "indice che non si estrae",
+    "ripetizione nell'urna",      "partita senza fine"};
 
 inline constexpr int kCarte = 31;
 

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <bitset>
+#include <string_view>
 
 #include "core/soldi.h"
 #include "simulazione/conti.h"
@@ -16,13 +17,18 @@ class Controllore {
   void InizioPartita();
   void InizioTurno();
 
-  // What should move the purse of the player in turn.
-  void Attende(Euro importo);
+  // What should move the player in turn and his purse.
+  void Dadi();
+  void Sovrapposizione(bool paga);
+  void Vinta(Euro premio);
+  void Persa();  // back where he threw from, without the dice's money
 
   // A screen that shows an entry of a pool has been opened.
   void Estratto(Urna urna);
 
   void PrimaDellaCarta();
+  // A parcel was opened: what it said, and the purse before it.
+  void Dono(std::string_view testo, Euro prima);
   void FineTurno(bool finita);
   void SenzaFine() { Viola(Regola::Fine); }
 
@@ -30,12 +36,14 @@ class Controllore {
   void Viola(Regola regola) { ++conti_.violazioni[static_cast<std::size_t>(regola)]; }
   void ControllaGruzzoli();
   void ControllaCarta();
+  void ControllaVolo();
 
   Conti& conti_;
   Euro attesi_[3];
+  int caselle_[3] = {};
+  int partenza_ = 0;
   int giocatore_ = 0;
   bool carta_ = false;
-  Euro primaDellaCarta_;
   std::array<std::bitset<100>, kUrne> visti_;
 };
 

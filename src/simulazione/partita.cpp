@@ -12,7 +12,6 @@
 #include "core/mod_Messaggi.h"
 #include "core/premiazione.h"
 #include "core/sorprese.h"
-#include "core/sovrapposizioni.h"
 #include "core/stato.h"
 #include "effects/dadi_logica.h"
 #include "screens/bonus_logica.h"
@@ -285,6 +284,7 @@ void Tavolo::Apri(Schermata form) {
     case Schermata::Dadi:
     case Schermata::FormInfo:
     case Schermata::FormMessaggi:
+    case Schermata::Splash:
       break;
   }
 }
@@ -292,16 +292,17 @@ void Tavolo::Apri(Schermata form) {
 void Tavolo::TiraDadi() {
   const int d1 = TiraDado(*this), d2 = TiraDado(*this);
   Dado = d1 + d2;
-  controllore_.Attende(Euro::Interi(Dado));
+  controllore_.Dadi();
   millisecondi_ += kPassoDadi * (kPassiDadi + 2 * std::max(d1, d2)) + kFineDadi;
   eventi::Form_Activate();
 }
 
 void Tavolo::Sovrapposizione() {
   millisecondi_ += kSceltaSovrapposizione;
-  if (Capita(0.5)) {
+  const bool paga = Capita(0.5);
+  controllore_.Sovrapposizione(paga);
+  if (paga) {
     Risposta = 1;
-    controllore_.Attende(-Euro::Interi(kPedaggio));
     ++conti_.sovrapposizioniPagate;
   } else {
     Risposta = 2;
@@ -313,13 +314,13 @@ int Tavolo::Prova(Esito esito, int limite, int perso) {
   int tempo = Entro(limite);
   if (Capita(argomenti_.abilita)) {
     Risposta = kGiusta;
-    controllore_.Attende(Premio);
+    controllore_.Vinta(Premio);
   } else if (Capita(argomenti_.rinuncia)) {
     Risposta = kRinuncia;
-    if (esito == Esito::Finale) controllore_.Attende(-Euro::Interi(Dado));
+    if (esito == Esito::Finale) controllore_.Persa();
   } else {
     Risposta = kSbagliata;
-    controllore_.Attende(-Euro::Interi(Dado));
+    controllore_.Persa();
     if (perso > 0) tempo = perso;
   }
   ++conti_.esiti[static_cast<std::size_t>(esito)][static_cast<std::size_t>(Risposta)];
@@ -329,7 +330,7 @@ int Tavolo::Prova(Esito esito, int limite, int perso) {
 
 void Tavolo::Bonus() {
   Premio = EstraiBonus(*this).premio;
-  controllore_.Attende(Premio);
+  controllore_.Vinta(Premio);
   millisecondi_ += kLetturaBonus;
 }
 
@@ -338,7 +339,7 @@ void Tavolo::Foto() {
   Premio = Euro();
   Premio = carta4_.Dopo(Prova(Esito::Foto, kTempoCarta4, 0));
   if (Risposta != kGiusta) return;
-  controllore_.Attende(Premio);
+  controllore_.Vinta(Premio);
   millisecondi_ += kSuonoVittoria;
 }
 
@@ -347,7 +348,7 @@ void Tavolo::VeroFalso() {
   Premio = Euro();
   Premio = carta2_.Dopo(Prova(Esito::VeroFalso, kTempoCarta2, 0));
   if (Risposta == kGiusta) {
-    controllore_.Attende(Premio);
+    controllore_.Vinta(Premio);
     Risposta = RispostaEsatta;
   } else if (Risposta == kSbagliata) {
     Risposta = 3 - RispostaEsatta;
@@ -356,7 +357,6 @@ void Tavolo::VeroFalso() {
 
 void Tavolo::Imprevisto() {
   controllore_.Estratto(Urna::Imprevisti);
-  controllore_.Attende(-Euro::Interi(1));
   controllore_.PrimaDellaCarta();
   ++conti_.esiti[static_cast<std::size_t>(Esito::Imprevisto)][kGiusta];
   carta_ = IndiceImprevisto;
@@ -371,7 +371,8 @@ void Tavolo::Imprevisto() {
 
 void Tavolo::Cartolina() {
   if (!CaricaCitta().pacco) return;
-  ApriSorpresa();
+  const Euro prima = Gruzzolo[Giocatore];
+  controllore_.Dono(ApriSorpresa(), prima);
   millisecondi_ += kLetturaSorpresa;
 }
 

@@ -11,6 +11,7 @@
 #include "screens/form_bonus.h"
 #include "screens/form_messaggi.h"
 #include "screens/form_sovrapposizioni.h"
+#include "screens/form_splash.h"
 #include "screens/segnaposto.h"
 #include "trials/form_carte2_items.h"
 
@@ -41,16 +42,11 @@ void Gioco::Apri() {
   ambiente_.mani = {immagini_.Puntatore(101), immagini_.Puntatore(102)};
   sfondo_ = std::make_unique<FormSfondo>(ambiente_);
   sfondo_->Load();
+}
 
-  // Until there is a start screen the players are as it would offer them.
-  using namespace mod_Girovia;
-  Nome[1] = "Primo";
-  Nome[2] = "Secondo";
-  Colore[1] = "65280";
-  Colore[2] = "65535";
-  Ritratto[1] = 124 + Estrai(6);
-  Ritratto[2] = 130 + Estrai(6);
+void Gioco::SaltaInizio() { screen_.top()->Find("CmdOK")->Click(); }
 
+void Gioco::ApriTabellone() {
   tabellone_ = std::make_unique<FormGirovia>(ambiente_);
   servizi().tabellone = tabellone_.get();
   servizi().comandi = tabellone_.get();
@@ -103,6 +99,8 @@ std::unique_ptr<platform::Form> Gioco::Crea(Schermata schermata) {
       return std::make_unique<FormCarte2Items>(ambiente_);
     case Schermata::FormRotazioneCarta:
       return std::make_unique<FormRotazioneCarta>(ambiente_);
+    case Schermata::Splash:
+      return std::make_unique<Splash>(ambiente_);
     default:
       return std::make_unique<Segnaposto>(ambiente_, schermata);
   }

@@ -30,9 +30,11 @@ class Gioco : private Schermi, private Suoni, private Attese, private Caso {
   // is told on the screen, and then in one line on stderr. The program's exit code.
   int Gioca();
 
-  // The two halves of it, for whoever looks at single screens: the backdrop and the board alone,
-  // and the form of a screen for one opening over them, not yet shown.
+  // The parts of it, for whoever looks at single screens: the backdrop and the start screen; that
+  // screen left as it offers itself, which opens the board; and the form of a screen for one
+  // opening, not yet shown.
   void Apri();
+  void SaltaInizio();
   std::unique_ptr<platform::Form> Crea(Schermata schermata);
 
   platform::Screen& screen() { return screen_; }
@@ -41,6 +43,7 @@ class Gioco : private Schermi, private Suoni, private Attese, private Caso {
  private:
   void MostraModale(Schermata schermata) override { Crea(schermata)->ShowModal(); }
   void MostraNonModale(Schermata) override;
+  void ApriTabellone() override;
   void PreparaSovrapposizioni(std::string_view label2, std::string_view label3) override {
     label2_ = label2;
     label3_ = label3;

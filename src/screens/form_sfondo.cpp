@@ -22,6 +22,7 @@ void FormSfondo::PlaceOnPlane() {
 void FormSfondo::Form_Load() {
   Show();
   SuonoAsync("inno");
+  servizi().schermi->MostraNonModale(Schermata::Splash);
 }
 
 }  // namespace girovia

@@ -73,7 +73,7 @@ void Splash::RigheGiocatore(int p) {
       {.back = 0, .border = false});
   Row(g.Frm, nomi.Frm, {540, nomi.top, 252, 89},
       {.caption = "Nome:", .font = Verdana(9.75), .back = colore});
-  Row(g.Txt, nomi.Txt, {82, 16, 161, 26}, {.text = nomi.nome, .font = Verdana(12, true)}, &g.Frm);
+  Row(g.Txt, nomi.Txt, {82, 16, 161, 26}, {.caption = nomi.nome, .font = Verdana(12, true), .back = 0xFFFFFF, .transparent = false}, &g.Frm);
   Row(g.cmdRitratto, nomi.cmdRitratto, {16, 24, kLatoRitratto, kLatoRitratto},
       {.back = colore, .border = true}, &g.Frm);
   Row(g.Lblcolore, nomi.Lblcolore, {80, 72, 172, 13},
@@ -126,8 +126,8 @@ void Splash::Form_Load() {
   TopTitoli = kAltoTitoli;
   StampaTitoli(false);
   Show();
-  giocatori_[1].Txt.SetFocus();
-  giocatori_[1].Txt.SelectAll();
+  
+  
   for (int p : {1, 2}) {
     Ritratto[p] = kPrimoRitratto[p] + Estrai(kRitratti);
     MostraRitratto(p);
@@ -197,7 +197,7 @@ void Splash::picRitratto_Click(int p, int Index) {
 
 void Splash::CmdOK_Click() {
   SuonoSeTace("117");
-  for (int p : {1, 2}) Nome[p] = TroncaNome(giocatori_[p].Txt.text());
+  for (int p : {1, 2}) Nome[p] = TroncaNome(giocatori_[p].Txt.caption());
   servizi().schermi->ApriTabellone();
   Unload();
 }

@@ -21,7 +21,7 @@ class Splash : public platform::Form, public SchermataIniziale {
   // What each of the two players has, alike but for the names and the places.
   struct Giocatore {
     platform::Frame Frm, FrmGalleria, ombraFrm, ombraGalleria;
-    platform::TextBox Txt;
+    platform::Label Txt;
     platform::PictureBox cmdRitratto;
     platform::ControlArray<platform::OptionButton> OptColore;
     platform::Label Lblcolore;

@@ -1,5 +1,6 @@
-// A running game on which a test may try single screens and moments: it starts, does what the test
-// wants when the board first waits for a click, and is ended.
+// A running game on which a test may try single screens and moments: it starts, leaves the start
+// screen as it offers itself if the test does not want that one, does what the test wants when the
+// board first waits for a click, and is ended.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -20,6 +21,7 @@ class Banco : public Caso {
   // Each step runs when the game waits for a click; after the last one the window is closed.
   void Passi(std::deque<std::function<void()>> passi) {
     host.OnIdle = [this, passi = std::move(passi)]() mutable {
+      if (!dallInizio && davanti().name() == "Splash") return Clicca(*davanti().Find("CmdOK"));
       if (passi.empty()) {
         host.Queue({platform::EventKind::Quit, 0, 0, platform::MouseButton::Left});
         return;
@@ -44,6 +46,7 @@ class Banco : public Caso {
   platform::HeadlessHost host;
   std::deque<double> numeri;  // the next draws; where there is none, 0
   Gioco gioco;
+  bool dallInizio = false;    // the steps begin on the start screen
   int codice = -1;
 
  private:

@@ -123,6 +123,8 @@ class Registratore : public Caso {
  public:
   Registratore(const std::string& copione, const std::string& cartella, bool impaziente)
       : istruzioni_(Leggi(copione)), gioco_(host_, {cartella, 1, this}) {
+    for (const Istruzione& i : istruzioni_)
+      if (i.testo.starts_with("clic Splash.")) saltaInizio_ = false;
     host_.OnIdle = [this] { Inattivo(); };
     if (impaziente) host_.OnBlocked = [this] { NonAspetta(); };
     gioco_.screen().OnSound = [this](const std::string& nome) { Scrivi("suono " + nome); };
@@ -141,6 +143,7 @@ class Registratore : public Caso {
 
   double Rnd() override {
     if (automatico_) return Uniforme();
+    if (attesa_ >= 0 && Davanti() == "Splash") return Uniforme();  // the portraits shimmer
     if (attesa_ >= 0) {  // the game went on by itself
       attesa_ = -1;
       istruzioni_.pop_front();
@@ -160,6 +163,8 @@ class Registratore : public Caso {
 
   void Inattivo() {
     ScriviStato();
+    if (saltaInizio_ && gioco_.screen().top()->name() == "Splash")
+      return CliccaInMezzo(*gioco_.screen().top(), *gioco_.screen().top()->Find("CmdOK"));
     if (automatico_) return CliccaACaso();
     if (istruzioni_.empty()) {
       host_.Queue({platform::EventKind::Quit, 0, 0, platform::MouseButton::Left});
@@ -333,6 +338,7 @@ class Registratore : public Caso {
   std::int64_t attesa_ = -1;
   std::int64_t ultimoClic_ = -1;
   bool automatico_ = false;
+  bool saltaInizio_ = true;
   std::mt19937 generatore_;
   platform::HeadlessHost host_{{800, 600}};
   Gioco gioco_;

@@ -1,4 +1,5 @@
-// Plays a game from a written script and records what happens.
+// Plays a game from a written script and records what happens. A script that clicks nothing on the
+// start screen begins behind it, with what that screen offers.
 //
 // Statements stand on lines of their own or are parted by ';', and '#' starts a comment. They
 // follow one another as the game asks for them: a click when it has nothing more to do, a number

@@ -49,6 +49,7 @@ class Scimmia : public Caso {
 
   void Controlla() {
     using namespace mod_Girovia;
+    if (!gioco_.tabellone()) return;  // still on the start screen
     const FormGirovia& tabellone = *gioco_.tabellone();
     for (int p : {1, 2}) {
       ASSERT_TRUE(Pos[p] >= 0 && Pos[p] <= kUltimaCasella) << Pos[p];

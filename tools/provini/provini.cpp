@@ -100,6 +100,7 @@ std::vector<Provino> DelGioco(const std::string& cartella, int scala) {
   };
   host.OnBlocked = guarda;
   gioco.Apri();
+  gioco.SaltaInizio();
   gioco.screen().Wait(1);
   guarda();
 
@@ -142,6 +143,7 @@ Surface IlTabellone(const std::string& cartella, int scala, bool inCorso) {
   platform::HeadlessHost host({800 * scala, 600 * scala});
   Gioco gioco(host, {.cartella = cartella});
   gioco.Apri();
+  gioco.SaltaInizio();
   if (inCorso) {
     using namespace mod_Girovia;
     FormGirovia& tabellone = *gioco.tabellone();

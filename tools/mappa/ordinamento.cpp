@@ -109,7 +109,12 @@ Canvas orderingPicture(const World& world, int scale) {
   cairo_translate(cr, kHalfWidth, kHalfHeight);
   cairo_scale(cr, kHalfWidth / kHalfHeight, 1);
   drawRose(page, {0, 0}, 292,
-           {.dark = kNavy, .light = kPaper, .ring = kGold, .alpha = 0.75, .fineLine = 0.005});
+           {.dark = kNavy,
+            .light = kPaper,
+            .ring = kGold,
+            .alpha = 0.86,
+            .fineLine = 0.005,
+            .depth = 0.7});
   cairo_restore(cr);
   drawTips(page);
   return page;

@@ -21,6 +21,17 @@ void fillPolygon(cairo_t* cr, const Line& corners) {
   cairo_fill(cr);
 }
 
+// Fills one half of a point of a rose, from one colour in the middle to another at the tip.
+void fillFacet(cairo_t* cr, const Line& corners, Colour middle, Colour tip) {
+  const auto gradient =
+      cairo_pattern_create_linear(corners[0].x, corners[0].y, corners[2].x, corners[2].y);
+  cairo_pattern_add_color_stop_rgb(gradient, 0.1, middle.r, middle.g, middle.b);
+  cairo_pattern_add_color_stop_rgb(gradient, 0.8, tip.r, tip.g, tip.b);
+  cairo_set_source(cr, gradient);
+  cairo_pattern_destroy(gradient);
+  fillPolygon(cr, corners);
+}
+
 void strokeCircle(cairo_t* cr, Point centre, double radius, double width) {
   cairo_set_line_width(cr, width);
   cairo_new_path(cr);
@@ -74,6 +85,10 @@ void drawRose(const Canvas& canvas, Point centre, double radius, const RoseStyle
     cairo_line_to(cr, b.x, b.y);
     cairo_set_line_width(cr, radius * style.fineLine);
     cairo_stroke(cr);
+    if (style.depth > 0 && i % 2 == 0) {
+      fillPolygon(cr, {a, b, polar(centre, radius * 0.66, (i + 1) / 32.0),
+                       polar(centre, radius * 0.60, (i + 1) / 32.0)});
+    }
   }
   // The half winds lie under the four great ones; each point is half dark, half light.
   for (const bool great : {false, true}) {
@@ -81,19 +96,26 @@ void drawRose(const Canvas& canvas, Point centre, double radius, const RoseStyle
     for (int i = 0; i < 4; ++i) {
       const double turn = i / 4.0 + (great ? 0 : 0.125);
       const Point end = polar(centre, tip, turn);
-      canvas.setColour(style.light);
-      fillPolygon(cr, {centre, polar(centre, waist, turn - 0.125), end});
-      canvas.setColour(style.dark);
-      fillPolygon(cr, {centre, polar(centre, waist, turn + 0.125), end});
+      fillFacet(cr, {centre, polar(centre, waist, turn - 0.125), end},
+                mix(style.light, style.ring, style.depth), style.light);
+      fillFacet(cr, {centre, polar(centre, waist, turn + 0.125), end}, style.dark,
+                mix(style.dark, style.light, style.depth / 3));
+      canvas.setColour(style.depth > 0 ? style.ring : style.dark);
       cairo_set_line_width(cr, radius * style.fineLine);
       cairo_new_path(cr);
       tracePath(cr, {polar(centre, waist, turn - 0.125), end, polar(centre, waist, turn + 0.125)});
       cairo_stroke(cr);
     }
   }
-  canvas.setColour(style.ring);
-  cairo_arc(cr, centre.x, centre.y, radius * 0.055, 0, kTurn);
-  cairo_fill(cr);
+  for (const auto& [part, colour] : {std::pair{0.085, style.dark},
+                                     {0.075, style.ring},
+                                     {0.06, style.dark},
+                                     {0.045, style.ring}}) {
+    if (style.depth <= 0 && part > 0.05) continue;
+    canvas.setColour(colour);
+    cairo_arc(cr, centre.x, centre.y, radius * (style.depth > 0 ? part : 0.055), 0, kTurn);
+    cairo_fill(cr);
+  }
   cairo_pop_group_to_source(cr);
   cairo_paint_with_alpha(cr, style.alpha);
 }

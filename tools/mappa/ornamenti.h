@@ -19,6 +19,7 @@ struct RoseStyle {
   Colour ring = kGold;
   double alpha = 1;
   double fineLine = 0.012;  // of the radius
+  double depth = 0;         // 0 a flat rose; above, its points rise to a boss in the middle
 };
 
 // Eight points and a ring; the needle to the north carries a lily.

@@ -55,8 +55,10 @@ SizedFont::SizedFont(int face, double points, int scale)
   const Face* own = FindFace(face);
   const double ascent = own ? own->ascent() : 0.9;
   const double descent = own ? own->descent() : 0.2;
-  lineHeight_ = std::max(1.0, std::round((ascent + descent) * em_));
-  ascent_ = std::min(std::round(ascent * em_), lineHeight_);
+  ascent_ = std::round(ascent * em_);
+  // Rounded apart, too, so that a line never cuts the tails of its letters.
+  lineHeight_ =
+      std::max({1.0, std::round((ascent + descent) * em_), ascent_ + std::round(descent * em_)});
   const double em = em_ * scale_;
   underlineThickness_ = std::max(1, static_cast<int>(std::lround(em * 0.07)));
   underlineTop_ = std::max(1, static_cast<int>(std::lround(em * 0.075)));

@@ -9,6 +9,9 @@
 #include "platform/forms/msgbox.h"
 #include "screens/form_banconote.h"
 #include "screens/form_bonus.h"
+#include "screens/form_citta.h"
+#include "screens/form_imprevisti.h"
+#include "screens/form_info.h"
 #include "screens/form_messaggi.h"
 #include "screens/form_sovrapposizioni.h"
 #include "screens/form_splash.h"
@@ -95,6 +98,12 @@ std::unique_ptr<platform::Form> Gioco::Crea(Schermata schermata) {
       return std::make_unique<FormBanconote>(ambiente_);
     case Schermata::FormBonus:
       return std::make_unique<FormBonus>(ambiente_);
+    case Schermata::FormCitta:
+      return std::make_unique<FormCitta>(ambiente_);
+    case Schermata::FormImprevisti:
+      return std::make_unique<FormImprevisti>(ambiente_);
+    case Schermata::FormInfo:
+      return std::make_unique<FormInfo>(ambiente_);
     case Schermata::FormCarte2Items:
       return std::make_unique<FormCarte2Items>(ambiente_);
     case Schermata::FormRotazioneCarta:

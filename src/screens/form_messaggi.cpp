@@ -41,7 +41,12 @@ void FormMessaggi::cmdRisposta_Click(int Index) {
   mod_Girovia::RitornoProva = Vero;
   mod_Messaggi::Risposta = Index;
   Unload();
-  servizi().comandi->MostraUscita();
+  if (mod_Girovia::UscitaDaSplash == Vero) {
+    mod_Girovia::UscitaDaSplash = Falso;
+    a_.iniziale->TornaDallaDomanda();
+  } else {
+    servizi().comandi->MostraUscita();
+  }
 }
 
 }  // namespace girovia

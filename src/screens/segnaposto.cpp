@@ -3,10 +3,8 @@
 #include "content/atlante.h"
 #include "content/quiz.h"
 #include "content/testi.h"
-#include "core/imprevisti.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
-#include "core/sorprese.h"
 
 namespace girovia {
 
@@ -41,18 +39,6 @@ const Prova* TrovaProva(Schermata schermata) {
 
 std::string Segnaposto::Domanda() {
   switch (per_) {
-    case Schermata::FormImprevisti: {
-      const PaginaImprevisto pagina = CaricaImprevisto();
-      return pagina.titolo + "\n" + pagina.sinistra + "\n" + pagina.destra;
-    }
-    case Schermata::FormCitta: {
-      const PaginaCitta pagina = CaricaCitta();
-      pacco_ = pagina.pacco;
-      return pacco_ ? std::string(ApriSorpresa()) : std::string(pagina.testo);
-    }
-    case Schermata::FormInfo:
-      return "Per iniziare il gioco e per tirare il dado, un giocatore deve fare clic con il mouse "
-             "sulla sua foto.";
     case Schermata::FormPremiazione:
       return Nome[Giocatore] + " hai vinto!!! Complimenti.";
     default: {
@@ -75,13 +61,6 @@ void Segnaposto::Form_Activate() { RitornoProva = Falso; }
 void Segnaposto::cmdRisposta_Click(int Index) {
   FormMessaggi::cmdRisposta_Click(Index);
   switch (per_) {
-    case Schermata::FormCitta:
-      RitornoProva = Falso;
-      RitornoCitta = Vero;
-      break;
-    case Schermata::FormInfo:
-      RitornoProva = Falso;
-      break;
     case Schermata::FormPremiazione:
       Risposta = 6;  // the prizes wait for their own screen
       break;

@@ -20,7 +20,6 @@ class Segnaposto : public FormMessaggi {
   std::string Domanda();
 
   Schermata per_;
-  bool pacco_ = false;
 };
 
 }  // namespace girovia

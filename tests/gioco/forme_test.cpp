@@ -35,9 +35,17 @@ bool SiClicca(const Control& c) {
   return c.visible() && c.enabled() && c.takesMouse() && (c.OnClick || c.OnMouseDown);
 }
 
+// The columns of the news begin under the foot of their page.
+bool Sale(const Control& c) {
+  return c.form()->name() == "FormImprevisti" &&
+         (c.name() == "lblGiornale(1)" || c.name() == "lblGiornale(2)");
+}
+
 bool Dentro(const Control& c, const Rect& area) {
   const Rect& r = c.place();
-  return r.left >= area.left && r.top >= area.top && r.right() <= area.right() &&
+  if (Sale(c)) return true;
+  const double bordo = dynamic_cast<const platform::Shape*>(&c) ? 1 : 0;  // half a wide line
+  return r.left >= area.left - bordo && r.top >= area.top - bordo && r.right() <= area.right() &&
          r.bottom() <= area.bottom() + (c.windowed() ? 0 : kTaglio);
 }
 
@@ -107,6 +115,10 @@ void Prepara(Schermata schermata, int n) {
       break;
     case Schermata::FormBanconote:
       Messaggio = "Vinci " + std::to_string(Dado) + " euro";
+      break;
+    case Schermata::FormInfo:
+      InfoDaPartita = Vero;
+      UscitaDaSplash = n == 1 ? Vero : Falso;
       break;
     case Schermata::FormSovrapposizioni:
       Messaggio = citta + " è già occupata.\r\nCosa vuoi fare?";

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <ctime>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -58,6 +59,7 @@ class Host {
   virtual PixelSize LargestWindow() = 0;
 
   virtual std::int64_t NowMicros() = 0;  // steady
+  virtual std::tm LocalTime() = 0;       // of the wall clock, for a date that is read
   // Sleeps until an event or the deadline, whichever comes first; false at the deadline.
   virtual bool WaitEvent(Event& event, std::int64_t deadlineMicros) = 0;
   // As WaitEvent, for a blocking wait in which no input counts: a scripted host offers none.

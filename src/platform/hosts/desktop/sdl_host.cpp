@@ -66,6 +66,13 @@ class SdlHost : public Host {
         .count();
   }
 
+  std::tm LocalTime() override {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return local;
+  }
+
   bool WaitEvent(Event& event, std::int64_t deadline) override {
     for (;;) {
       if (voice_.idleAt() <= NowMicros()) voice_.Close();

@@ -6,6 +6,17 @@
 
 namespace platform {
 
+std::tm HeadlessHost::Monday() {
+  std::tm monday{};
+  monday.tm_year = 2026 - 1900;
+  monday.tm_mon = 4;
+  monday.tm_mday = 4;
+  monday.tm_wday = 1;
+  monday.tm_hour = 9;
+  monday.tm_min = 5;
+  return monday;
+}
+
 void HeadlessHost::Click(Point at, MouseButton button) {
   const int x = int(at.x), y = int(at.y);
   Queue({EventKind::MouseMove, x, y, MouseButton::Left});

@@ -21,6 +21,9 @@ class HeadlessHost : public Host {
   // Called for each shown change, after it.
   std::function<void(const std::vector<DeviceRect>&)> OnShow;
 
+  // What its wall clock shows, always: nine and five minutes of Monday 4 May 2026.
+  std::tm wallClock = Monday();
+
   void Queue(const Event& event) { queue_.push_back(event); }
   // Moves the pointer there, presses and releases.
   void Click(Point windowPixel, MouseButton button = MouseButton::Left);
@@ -36,6 +39,7 @@ class HeadlessHost : public Host {
   PixelSize WindowSize() override { return window_; }
   PixelSize LargestWindow() override { return window_; }
   std::int64_t NowMicros() override { return now_; }
+  std::tm LocalTime() override { return wallClock; }
   bool WaitEvent(Event& event, std::int64_t deadlineMicros) override;
   bool WaitBlocked(Event& event, std::int64_t deadlineMicros) override;
   void Show(const Surface& plane, PixelSize planeSize,
@@ -45,6 +49,7 @@ class HeadlessHost : public Host {
   void PlaySound(const std::shared_ptr<const Wave>&) override {}
 
  private:
+  static std::tm Monday();
   bool Next(Event& event, std::int64_t deadline, const std::function<void()>& ask);
 
   PixelSize window_;

@@ -74,6 +74,31 @@ const Quadro kQuadri[] = {
        mod_Messaggi::Messaggio = "Se sbagli restituisci 9 euro e torni a Copenaghen";
        servizi().schermi->MostraModale(Schermata::FormCarte2Items);
      }},
+    {"giornale", 2,
+     [](Banco&) {
+       Turno(2, 9);
+       mod_Girovia::Pos[2] = 47;
+       mod_Messaggi::IndiceImprevisto = 14;
+       servizi().schermi->MostraModale(Schermata::FormImprevisti);
+     }},
+    {"aiuto", 1,
+     [](Banco&) {
+       mod_Girovia::InfoDaPartita = Vero;
+       servizi().schermi->MostraModale(Schermata::FormInfo);
+     }},
+    {"cartolina", 2,
+     [](Banco&) {
+       Turno(1, 4);
+       mod_Girovia::CittaCliccata = 80;
+       servizi().schermi->MostraModale(Schermata::FormCitta);
+     }},
+    {"pacco", 1,
+     [](Banco&) {
+       Turno(2, 4);
+       mod_Girovia::Sorpresa = 1;
+       mod_Girovia::CittaCliccata = mod_Girovia::Pos[2] = 67;
+       servizi().schermi->MostraModale(Schermata::FormCitta);
+     }},
     {"avviso", 1,
      [](Banco& banco) {
        platform::MsgBox(banco.gioco.screen(), "GIROVIA GRANDETAPPA", "Vuoi uscire dal gioco?",
@@ -141,12 +166,14 @@ class Quadri : public testing::TestWithParam<Quadro> {};
 
 TEST_P(Quadri, LooksAsItDid) {
   const Quadro& quadro = GetParam();
-  // The map and the photographs are not looked at here: they change when a city is drawn anew.
+  // Large pictures are not looked at here: they change when a city is drawn anew.
   Cartella cartella;
   cartella.Alleggerisci();
-  const std::string tinta = cartella.percorso() + "/risorse/schermate/FormGirovia.bmp";
-  std::filesystem::remove(tinta);
-  platform::SavePng(Surface(8, 6, 1, 0xC0A080), tinta);
+  for (const char* nome : {"FormGirovia.bmp", "FormImprevisti.png"}) {
+    const std::string tinta = cartella.percorso() + "/risorse/schermate/" + nome;
+    std::filesystem::remove(tinta);
+    platform::SavePng(Surface(8, 6, 1, 0xC0A080), tinta);
+  }
 
   Banco banco(quadro.scala, cartella.percorso());
   std::deque<std::function<void()>> passi(22);  // the logo slides, the pulses beat

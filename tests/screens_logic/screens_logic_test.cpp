@@ -72,13 +72,24 @@ TEST(Giornale, DateLineInItalian) {
   ora.tm_hour = 9;
   ora.tm_min = 5;
   EXPECT_EQ(DataGiornale(ora), "Lunedì, 4 maggio 2026\r\nsono le 09,05.");
-  EXPECT_EQ(DataInfo(ora), "Lunedì, 4 maggio 2026. Sono le 09,05.");
-  ora.tm_mon = 11;
-  ora.tm_mday = 31;
-  ora.tm_wday = 0;
-  ora.tm_hour = 23;
+  ora.tm_hour = 0;
   ora.tm_min = 59;
-  EXPECT_EQ(DataInfo(ora), "Domenica, 31 dicembre 2026. Sono le 23,59.");
+  EXPECT_EQ(DataInfo(ora), "Lunedì, 4 maggio 2026. Sono le 00,59.");
+  const char* giorni[] = {"Domenica", "Lunedì",  "Martedì", "Mercoledì",
+                          "Giovedì",  "Venerdì", "Sabato"};
+  const char* mesi[] = {"gennaio", "febbraio", "marzo",     "aprile",  "maggio",   "giugno",
+                        "luglio",  "agosto",   "settembre", "ottobre", "novembre", "dicembre"};
+  for (int giorno = 1; giorno <= 365; ++giorno) {
+    std::tm data{};
+    data.tm_year = 2026 - 1900;
+    data.tm_mday = giorno;
+    data.tm_hour = 12;
+    std::mktime(&data);  // 1 January 2026 is a Thursday
+    EXPECT_EQ(data.tm_wday, (giorno + 3) % 7);
+    EXPECT_EQ(DataInfo(data), std::string(giorni[data.tm_wday]) + ", " +
+                                  std::to_string(data.tm_mday) + " " + mesi[data.tm_mon] +
+                                  " 2026. Sono le 12,00.");
+  }
 }
 
 }  // namespace

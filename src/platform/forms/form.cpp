@@ -204,8 +204,12 @@ void Form::PaintChildren(Surface& target, Control* container, Point origin,
       target.SetOrigin(corner);
       target.SetClip(area);
       c->Paint(target);
-      const Point inner{corner.x + c->childOrigin().x, corner.y + c->childOrigin().y};
-      PaintChildren(target, c, inner, area);
+      // Children do not reach over their container's border.
+      const Point border = c->childOrigin();
+      const Point inner{corner.x + border.x, corner.y + border.y};
+      const Rect room{inner.x, inner.y, c->place().width - 2 * border.x,
+                      c->place().height - 2 * border.y};
+      PaintChildren(target, c, inner, Intersect(area, ToDevice(room, k)));
     }
 }
 

@@ -139,7 +139,10 @@ void Screen::BringIn(Form& form) {
   forms_.push_back(&form);
 }
 
-void Screen::TakeOut(Form& form) { std::erase(forms_, &form); }
+void Screen::TakeOut(Form& form) {
+  std::erase(forms_, &form);
+  if (captured_ && captured_->form() == &form) captured_ = nullptr;
+}
 
 void Screen::Activate() {
   Form* front = top();
@@ -168,6 +171,7 @@ void Screen::Forget(Form* form) {
 
 void Screen::Forget(Control* control) {
   if (pressed_ == control) pressed_ = nullptr;
+  if (captured_ == control) captured_ = nullptr;
   if (hovered_ == control) hovered_ = nullptr;
   if (tipFor_ == control) HideTip();
 }
@@ -333,7 +337,7 @@ void Screen::MouseMoved(Point at) {
                           std::clamp(top, reach - bounds.height(), planeSize_.height - reach));
     return;
   }
-  Control* target = pressed_;
+  Control* target = Holder();
   Form* form = target ? target->form() : FormAt(at);
   if (!target && form) {
     const Point p = InForm(*form, at);
@@ -362,10 +366,11 @@ void Screen::MouseMoved(Point at) {
 
 void Screen::MousePressed(Point at, MouseButton button) {
   HideTip();
-  Form* form = FormAt(at);
+  Control* target = Captured();
+  Form* form = target ? target->form() : FormAt(at);
   if (!form) return;
   const Point p = InForm(*form, at);
-  Control* target = form->HitTest(p.x, p.y);
+  if (!target) target = form->HitTest(p.x, p.y);
   if (target) {
     if (button == MouseButton::Left) {
       pressed_ = target;
@@ -387,6 +392,7 @@ void Screen::MouseReleased(Point at, MouseButton button) {
   target->SetPressed(false);
   const MouseArgs args = ArgsFor(*target, *target->form(), at, button);
   const bool inside =
+      target == Captured() ||
       Rect{0, 0, target->place().width, target->place().height}.contains(args.x, args.y);
   if (inside && target->ShownOnScreen() && TakesInput(*target->form())) target->Click();
   UpdatePointer(mouse_);
@@ -396,9 +402,9 @@ void Screen::UpdatePointer(Point at) {
   Pointer pointer;
   if (dragged_) {
     pointer.kind = Pointer::Kind::SizeAll;
-  } else if (Form* form = pressed_ ? pressed_->form() : FormAt(at)) {
+  } else if (Form* form = Holder() ? Holder()->form() : FormAt(at)) {
     const Point p = InForm(*form, at);
-    const Control* control = pressed_ ? pressed_ : form->HitTest(p.x, p.y);
+    const Control* control = Holder() ? Holder() : form->HitTest(p.x, p.y);
     pointer = control ? control->pointer() : form->pointer();
     if (control && pointer == Pointer{}) pointer = form->pointer();
   }
@@ -410,6 +416,12 @@ void Screen::UpdatePointer(Point at) {
 void Screen::Drag(Form& form) {
   dragged_ = &form;
   dragFrom_ = mouse_;
+}
+
+void Screen::SetCapture(Control* control) { captured_ = control; }
+
+Control* Screen::Captured() const {
+  return captured_ && TakesInput(*captured_->form()) ? captured_ : nullptr;
 }
 
 void Screen::ClipCursor(const std::optional<Rect>& area) {

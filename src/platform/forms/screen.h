@@ -64,6 +64,9 @@ class Screen {
 
   // --- Mouse
   void Drag(Form& form);
+  // From now on every movement, press and click goes to this control, wherever the pointer is, until
+  // another is told or null, or the control is no longer seen.
+  void SetCapture(Control* control);
   // Keeps the pointer in a rectangle of plane coordinates (logical) or frees it.
   void ClipCursor(const std::optional<Rect>& area);
   Control* pressed() const { return pressed_; }
@@ -91,6 +94,10 @@ class Screen {
   void MousePressed(Point at, MouseButton button);
   void MouseReleased(Point at, MouseButton button);
   Form* FormAt(Point at) const;
+  // To whom the mouse belongs whatever it points at; null: to nobody. A box over the form of the one
+  // who has captured it comes first.
+  Control* Captured() const;
+  Control* Holder() const { return Captured() ? captured_ : pressed_; }
   Point InForm(const Form& form, Point at) const;
   MouseArgs ArgsFor(const Control& control, const Form& form, Point at, MouseButton button) const;
   void UpdatePointer(Point at);
@@ -113,6 +120,7 @@ class Screen {
   Form* active_ = nullptr;
   std::vector<Timer*> timers_;
   Control* pressed_ = nullptr;
+  Control* captured_ = nullptr;
   Control* hovered_ = nullptr;
   Form* dragged_ = nullptr;
   Point dragFrom_;

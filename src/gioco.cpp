@@ -17,6 +17,8 @@
 #include "screens/form_splash.h"
 #include "screens/segnaposto.h"
 #include "trials/form_carte2_items.h"
+#include "trials/form_prova_ordinamento.h"
+#include "trials/form_prova_puzzle.h"
 
 namespace girovia {
 
@@ -106,6 +108,10 @@ std::unique_ptr<platform::Form> Gioco::Crea(Schermata schermata) {
       return std::make_unique<FormInfo>(ambiente_);
     case Schermata::FormCarte2Items:
       return std::make_unique<FormCarte2Items>(ambiente_);
+    case Schermata::FormProvaOrdinamento:
+      return std::make_unique<FormProvaOrdinamento>(ambiente_);
+    case Schermata::FormProvaPuzzle:
+      return std::make_unique<FormProvaPuzzle>(ambiente_);
     case Schermata::FormRotazioneCarta:
       return std::make_unique<FormRotazioneCarta>(ambiente_);
     case Schermata::Splash:

@@ -25,8 +25,6 @@ constexpr Prova kProve[] = {
     {Schermata::FormCarte4Items, "Le quattro foto: hai trovato le tre giuste?", 20},
     {Schermata::FormProvaCitta, "Hai trovato la città?", 0},
     {Schermata::FormProvaCapitali, "Hai trovato la capitale?", 0},
-    {Schermata::FormProvaOrdinamento, "Hai messo in ordine le otto città?", 10},
-    {Schermata::FormProvaPuzzle, "Hai ricomposto la foto?", 20},
 };
 
 const Prova* TrovaProva(Schermata schermata) {
@@ -42,11 +40,7 @@ std::string Segnaposto::Domanda() {
     case Schermata::FormPremiazione:
       return Nome[Giocatore] + " hai vinto!!! Complimenti.";
     default: {
-      const Prova* prova = TrovaProva(per_);
-      const bool finale = per_ == Schermata::FormProvaPuzzle && ArrivoRaggiunto == Vero;
-      const std::string domanda =
-          finale ? "PROVA FINALE\nHai ricomposto la carta d'Europa?" : prova->domanda;
-      return domanda + "\n" + Messaggio;
+      return TrovaProva(per_)->domanda + ("\n" + Messaggio);
     }
   }
 }

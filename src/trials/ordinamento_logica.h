@@ -17,6 +17,8 @@ inline constexpr int kCellaRiferimento = 4;
 
 class ProvaOrdinamento {
  public:
+  using Misura = double;
+  static constexpr int kCelle = 9;
   static constexpr int kLarghezza = 800;  // the picture on which the tiles lie
   static constexpr int kAltezza = 600;
   static constexpr int kLarghezzaTassello = 216;

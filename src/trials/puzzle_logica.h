@@ -13,7 +13,11 @@ namespace girovia {
 
 class ProvaPuzzle {
  public:
+  using Misura = float;
+  static constexpr int kCelle = 12;
   static constexpr int kLato = 120;
+  static constexpr int kLarghezzaTassello = kLato;
+  static constexpr int kAltezzaTassello = kLato;
 
   explicit ProvaPuzzle(Caso& caso) : griglia_(Distribuisci(caso)) {}
   explicit ProvaPuzzle(const std::array<int, 12>& tasselli) : griglia_(tasselli) {}

@@ -21,7 +21,8 @@ FormProvaOrdinamento::FormProvaOrdinamento(Ambiente& ambiente)
     : FormTasselli(ambiente, "FormProvaOrdinamento", 800, 600) {
   Row(picOriginale, "picOriginale", {0, 0, 800, 600});
   RigheCelle();
-  Picture2(kCellaRiferimento).SetPointer({});
+  Picture2(kCellaRiferimento).SetPointer({});  // nothing can be lifted there
+  Picture2(kCellaRiferimento).OnMouseDown = nullptr;
   Row(PicCaricamento, "PicCaricamento", {352, 240, kLarghezza, kAltezza},
       {.back = kFondoIstruzioni, .visible = false}, &picOriginale);
   RigaTassello({272, 160, kLarghezza, kAltezza});

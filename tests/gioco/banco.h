@@ -16,12 +16,16 @@ namespace girovia {
 class Banco : public Caso {
  public:
   explicit Banco(int scala = 1, const std::string& cartella = PROGRAMMA)
-      : host({800 * scala, 600 * scala}), gioco(host, {cartella, scala, this}) {}
+      : Banco({800 * scala, 600 * scala}, scala, cartella) {}
+  // A window of any size, at the scale that the game chooses for it if `scala` is 0.
+  Banco(platform::PixelSize finestra, int scala, const std::string& cartella = PROGRAMMA)
+      : host(finestra), gioco(host, {cartella, scala, this}) {}
 
   // Each step runs when the game waits for a click; after the last one the window is closed.
   void Passi(std::deque<std::function<void()>> passi) {
     host.OnIdle = [this, passi = std::move(passi)]() mutable {
       if (!dallInizio && davanti().name() == "Splash") return Clicca(*davanti().Find("CmdOK"));
+      if (host.NowMicros() < aspetta_) return;
       if (passi.empty()) {
         host.Queue({platform::EventKind::Quit, 0, 0, platform::MouseButton::Left});
         return;
@@ -32,6 +36,9 @@ class Banco : public Caso {
     };
     codice = gioco.Gioca();
   }
+
+  // The next step is not taken before so many milliseconds have passed.
+  void Aspetta(int ms) { aspetta_ = host.NowMicros() + ms * 1000LL; }
 
   platform::Form& davanti() { return *gioco.screen().top(); }
   void Clicca(const platform::Control& controllo,
@@ -56,6 +63,8 @@ class Banco : public Caso {
     numeri.pop_front();
     return u;
   }
+
+  std::int64_t aspetta_ = 0;
 };
 
 }  // namespace girovia

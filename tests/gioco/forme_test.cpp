@@ -23,6 +23,8 @@ constexpr double kPuntiLeggibili = 6;
 // The foot of the board cuts its two frames, and the line of a purse below the base line of its
 // figures.
 constexpr double kTaglio = 3;
+// Two photographs of the puzzle are smaller than its cells together.
+constexpr double kMancante = 4;
 
 // Lines follow the route, and a picture box that is hidden is a work surface or waits for its
 // place.
@@ -45,8 +47,10 @@ bool Dentro(const Control& c, const Rect& area) {
   const Rect& r = c.place();
   if (Sale(c)) return true;
   const double bordo = dynamic_cast<const platform::Shape*>(&c) ? 1 : 0;  // half a wide line
-  return r.left >= area.left - bordo && r.top >= area.top - bordo && r.right() <= area.right() &&
-         r.bottom() <= area.bottom() + (c.windowed() ? 0 : kTaglio);
+  const double oltre = c.name().starts_with("Picture2") ? kMancante : 0;
+  return r.left >= area.left - bordo && r.top >= area.top - bordo &&
+         r.right() <= area.right() + oltre &&
+         r.bottom() <= area.bottom() + (c.windowed() ? oltre : kTaglio);
 }
 
 bool Toccano(const Rect& a, const Rect& b) {

@@ -33,6 +33,8 @@ constexpr Sorte kSorti[] = {
     {"volo", 2},          // 1: onwards
     {"biglietto", 2},     // of the map trials' prize: 10 or 5 euro
     {"monete", 8},        // four of them
+    {"tasselli", 9},      // of the ordering trial, to the cells but the middle one
+    {"pezzi", 12},        // of the puzzle
     {"citta", 100},      {"capitale", 35}, {"ordinamento", 9}, {"foto", 41}, {"premio", 14},
 };
 
@@ -84,13 +86,16 @@ void LeggiNumeri(Istruzione& i) {
 // What nearly every turn does, in a word.
 std::vector<std::string> Sciogli(const std::string& riga) {
   std::istringstream parole(riga);
-  std::string verbo, giocatore, dadi;
-  parole >> verbo >> giocatore;
-  std::getline(parole, dadi);
+  std::string verbo, primo, secondo, resto;
+  parole >> verbo >> primo >> secondo;
+  std::getline(parole, resto);
   if (verbo == "tira")
-    return {"clic FormGirovia.cmdRitratto(" + giocatore + ")", "dado" + dadi,
+    return {"clic FormGirovia.cmdRitratto(" + primo + ")", "dado " + secondo + resto,
             "clic FormBanconote.cmdRisposta"};
   if (verbo == "passa") return {"esito 7", "affermazione 0", "clic FormCarte2Items.cmdRisposta(0)"};
+  if (verbo == "sposta")
+    return {"clic Picture2(" + primo + ")",
+            secondo == primo ? "clic picTassello" : "clic Picture2(" + secondo + ")"};
   return {riga};
 }
 
@@ -225,6 +230,7 @@ class Registratore : public Caso {
   void CliccaACaso() {
     if (host_.NowMicros() > kDurataMassima) throw ErroreCopione("the game does not come to an end");
     Form& form = *gioco_.screen().top();
+    if (form.Find("picTassello") && SpostaACaso(form)) return;
     for (const char* nome : {"cmdRitratto", "cmdRisposta", "cmdExit", "cmdOK", "cmdYes"}) {
       std::vector<Control*> adatti;
       for (Control* c : form.controls())
@@ -235,6 +241,23 @@ class Registratore : public Caso {
       Scrivi("clic " + form.name() + "." + scelto.name());
       return CliccaInMezzo(form, scelto);
     }
+  }
+
+  // Puts the next tile in its place, unless the player loses patience.
+  bool SpostaACaso(const Form& form) {
+    const auto cella = [&form](int c) { return form.Find("Picture2(" + std::to_string(c) + ")"); };
+    const auto tassello = [&](int c) { return std::stoi(cella(c)->tag()); };
+    if (const Control* mano = form.Find("picTassello"); mano->visible()) {
+      CliccaInMezzo(form, *cella(std::stoi(mano->tag())));
+      return true;
+    }
+    if (Uniforme() < 0.05) return false;
+    int da = 0;
+    for (int c = 0; cella(c); ++c)
+      if (tassello(c) != c) da = c;
+    Scrivi("sposta " + std::to_string(da) + " " + cella(da)->tag());
+    CliccaInMezzo(form, *cella(da));
+    return true;
   }
 
   // Somewhere on the screen, and half the time a press that is not let go.

@@ -85,7 +85,7 @@ TEST(Risorse, WithoutSoundsTheGameGoesOn) {
   cartella.Togli("Suoni/112.wav");
   cartella.Riscrivi("Suoni/123.wav", "RIFF");
   const std::string copione =
-      "ritratti 124 130; tira 1 5 5; esito 0; ordinamento 0; clic cmdRisposta(2)\n";
+      "ritratti 124 130; tira 1 5 5; esito 7; affermazione 0; clic cmdRisposta(2)\n";
   EXPECT_THAT(Registra(copione, cartella.percorso()), HasSubstr("fine, codice 0"));
   cartella.Togli("Suoni");
   EXPECT_THAT(Registra(copione, cartella.percorso()), HasSubstr("fine, codice 0"));

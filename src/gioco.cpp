@@ -72,7 +72,6 @@ int Gioco::Gioca() {
       const std::string numero = std::to_string(errore.number());
       std::fprintf(stderr, "%s: errore %s: %s (%s)\n", errore.source().c_str(), numero.c_str(),
                    errore.what(), errore.path().c_str());
-      mod_Girovia::RitornoProva = Vero;  // so that the board does not go on when the box closes
       platform::MsgBox(screen_, "GIROVIA GRANDETAPPA",
                        std::string(errore.what()) + "\n" + errore.path() + "\nErrore " + numero +
                            " in " + errore.source(),

@@ -143,6 +143,7 @@ void FormGirovia::RigheComandi() {
       {.picture = a_.immagini.DiSchermata("cmdExit"), .hand = &a_.mani});
   CmdHelp.OnClick = [this] { CmdHelp_Click(); };
   cmdExit.OnClick = [this] { cmdExit_Click(); };
+  SetCancel(cmdExit);
   Row(TimerCitta, 400, false, [this] { TimerCitta_Timer(); });
   Row(TimerSorpresa, 400, false, [this] { TimerSorpresa_Timer(); });
 }

@@ -215,6 +215,7 @@ class Registratore : public Caso {
   void Clicca(const Istruzione& i) {
     std::string nome = i.argomenti[0];
     Form* form = gioco_.screen().top();
+    if (form->systemBox()) Avanti(*form);  // no form of the program: nobody else tells of it
     if (const auto punto = nome.find('.'); punto != std::string::npos) {
       if (form->name() != nome.substr(0, punto)) Errore(i, Davanti() + " is in front");
       nome.erase(0, punto + 1);

@@ -1,72 +1,11 @@
 // Forms, controls, timers and modal loops through the headless host, as a program uses them.
 #include "platform/forms/form.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 #include "platform/forms/msgbox.h"
-#include "platform/forms/screen.h"
-#include "platform/hosts/headless/headless_host.h"
+#include "program.h"
 
 namespace platform {
 namespace {
-
-using Log = std::vector<std::string>;
-
-class PlainForm : public Form {
- public:
-  PlainForm(Screen& s, std::string formName, int w, int h, Log& log, Color back = 0xC0C0C0)
-      : Form(s, std::move(formName), w, h, back), log_(log) {
-    Row(button, "button", {10, 10, 40, 40});
-    button.OnClick = [this] {
-      log_.push_back(name() + " click");
-      if (onClick) onClick();
-    };
-  }
-  void Form_Load() override { log_.push_back(name() + " load"); }
-  void Form_Activate() override {
-    log_.push_back(name() + " activate");
-    if (onActivate) onActivate();
-  }
-  void Form_Unload() override { log_.push_back(name() + " unload"); }
-
-  CommandButton button;
-  std::function<void()> onClick, onActivate;
-
- private:
-  Log& log_;
-};
-
-// Runs the loop until the script has nothing more to do.
-struct Program {
-  HeadlessHost host{{800, 600}};
-  Screen screen{host};
-  Log log;
-  std::vector<std::function<void()>> script;
-
-  void Run() {
-    std::size_t step = 0;
-    host.OnIdle = [this, step]() mutable {
-      if (step < script.size()) {
-        script[step++]();
-      } else {
-        host.Queue({EventKind::Quit, 0, 0, MouseButton::Left});
-      }
-    };
-    EXPECT_THROW(screen.Run(), ProgramEnded);
-  }
-  void ClickOn(const Form& form, double x, double y, MouseButton button = MouseButton::Left) {
-    const Rect r = form.PlaneRect();
-    host.Click(screen.ToWindow({r.left + x, r.top + y}), button);
-  }
-  void MoveTo(const Form& form, double x, double y) {
-    const Rect r = form.PlaneRect();
-    const Point p = screen.ToWindow({r.left + x, r.top + y});
-    host.Queue({EventKind::MouseMove, int(p.x), int(p.y), MouseButton::Left});
-  }
-};
 
 TEST(Forms, ActivationFollowsTheReturnRule) {
   Program p;
@@ -358,13 +297,15 @@ TEST(Forms, PlaneAndScaleFollowTheWindow) {
   EXPECT_EQ(p.log.back(), "board click");
 }
 
-TEST(Forms, MsgBoxAnswers) {
+TEST(Forms, MsgBoxAnswersAndNoFormNotices) {
   Program p;
   PlainForm board(p.screen, "board", 800, 600, p.log);
   std::vector<MsgResult> results;
   board.onClick = [&] {
     results.push_back(MsgBox(p.screen, "GIROVIA", "Vuoi uscire dal gioco?", MsgButtons::YesNo));
   };
+  int shownForms = 0;
+  p.screen.OnForm = [&](const Form&) { ++shownForms; };
   const auto press = [&](const char* button) {
     return [&p, button] {
       const Rect r = p.screen.top()->Find(button)->place();
@@ -373,9 +314,29 @@ TEST(Forms, MsgBoxAnswers) {
   };
   board.Show();
   const auto open = [&] { p.ClickOn(board, 20, 20); };
-  p.script = {open, press("cmdNo"), open, press("cmdYes")};
+  p.script = {open, press("cmdNo"), open, open /* does nothing */, press("cmdYes")};
   p.Run();
   EXPECT_EQ(results, (std::vector<MsgResult>{MsgResult::No, MsgResult::Yes}));
+  EXPECT_EQ(p.log, (Log{"board load", "board activate", "board click", "board click"}));
+  EXPECT_EQ(shownForms, 1);
+}
+
+TEST(Forms, ABoxThatTellsOfAnErrorWakesNoFormEither) {
+  Program p;
+  PlainForm board(p.screen, "board", 800, 600, p.log);
+  board.onClick = [&] {
+    PlainForm inner(p.screen, "inner", 100, 100, p.log);
+    inner.onActivate = [] { throw std::runtime_error("no picture"); };
+    inner.ShowModal();
+  };
+  board.Show();
+  p.host.OnIdle = [&] {
+    p.screen.top() == &board ? p.ClickOn(board, 20, 20) : p.host.Press(Key::Enter);
+  };
+  EXPECT_THROW(p.screen.Run(), std::runtime_error);
+  p.log.clear();
+  EXPECT_EQ(MsgBox(p.screen, "GIROVIA", "Errore", MsgButtons::Ok), MsgResult::Ok);
+  EXPECT_EQ(p.log, Log{}) << "the board would go on with its turn";
 }
 
 }  // namespace

@@ -32,6 +32,8 @@ void CopyRow(std::uint32_t* to, const std::uint32_t* from, int count, RasterOp o
 Surface::Surface(int width, int height, int scale, Color back)
     : width_(width), height_(height), scale_(scale) {
   MakeUsable(width_, height_, scale_);
+  deviceWidth_ = width_ * scale_;
+  deviceHeight_ = height_ * scale_;
   clip_ = deviceBounds();
   const auto count =
       static_cast<std::size_t>(deviceWidth()) * static_cast<std::size_t>(deviceHeight());
@@ -47,8 +49,18 @@ Surface::Surface(int width, int height, int scale, std::vector<std::uint32_t> pi
     return;
   width_ = width;
   height_ = height;
+  deviceWidth_ = width_ * scale_;
+  deviceHeight_ = height_ * scale_;
   clip_ = deviceBounds();
   pixels_ = std::move(pixels);
+}
+
+Surface Surface::OfDevicePixels(int deviceWidth, int deviceHeight, int scale, Color back) {
+  Surface out((deviceWidth + scale - 1) / scale, (deviceHeight + scale - 1) / scale, scale, back);
+  out.deviceWidth_ = std::min(deviceWidth, out.deviceWidth_);
+  out.deviceHeight_ = std::min(deviceHeight, out.deviceHeight_);
+  out.clip_ = out.deviceBounds();
+  return out;
 }
 
 Color Surface::PixelAt(double x, double y) const {

@@ -46,12 +46,14 @@ class Surface {
   // Takes device pixels over, row by row; the top byte of each must be 0. Empty if their count does
   // not fit the size.
   Surface(int width, int height, int scale, std::vector<std::uint32_t> pixels);
+  // Of just so many device pixels, though its last logical row and column are cut by that.
+  static Surface OfDevicePixels(int deviceWidth, int deviceHeight, int scale, Color back);
 
   int width() const { return width_; }    // logical
   int height() const { return height_; }  // logical
   int scale() const { return scale_; }
-  int deviceWidth() const { return width_ * scale_; }
-  int deviceHeight() const { return height_ * scale_; }
+  int deviceWidth() const { return deviceWidth_; }
+  int deviceHeight() const { return deviceHeight_; }
   DeviceRect deviceBounds() const { return {0, 0, deviceWidth(), deviceHeight()}; }
 
   // Device pixels, 0x00RRGGBB; the top byte is always 0.
@@ -118,6 +120,8 @@ class Surface {
 
   int width_ = 0;
   int height_ = 0;
+  int deviceWidth_ = 0;
+  int deviceHeight_ = 0;
   int scale_ = 1;
   DeviceRect clip_;
   Point origin_;

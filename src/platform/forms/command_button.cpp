@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "platform/forms/controls.h"
-#include "platform/forms/form.h"
+#include "platform/forms/screen.h"
 #include "platform/forms/shade.h"
 
 namespace platform {
@@ -67,6 +67,14 @@ void CommandButton::PaintButton(Surface& surface, bool down) const {
     surface.DrawText(box, caption_, style);
   }
   surface.SetClip(outer);
+  PaintFocusMark(surface);
+}
+
+bool CommandButton::TakeKey(const Event& event) {
+  const bool presses = event.kind == EventKind::KeyDown && !event.ctrl && !event.alt &&
+                       (event.key == Key::Space || event.key == Key::Enter);
+  if (presses && form_->screen().CanClick(*this)) Click();
+  return presses;
 }
 
 }  // namespace platform

@@ -24,6 +24,7 @@ void Control::Move(const Rect& place) {
   Invalidate();
   place_ = place;
   Invalidate();
+  if (form_) form_->screen().Rearranged();
 }
 
 void Control::SetVisible(bool visible) {
@@ -32,7 +33,19 @@ void Control::SetVisible(bool visible) {
   if (visible_) Invalidate();
   visible_ = visible;
   if (visible_) Invalidate();
-  if (!visible_ && form_) form_->screen().Forget(this);
+  if (!visible_) pressed_ = false;
+  if (!visible_ && form_) form_->screen().LetGo(this);
+  if (form_) form_->screen().Rearranged();
+}
+
+void Control::SetEnabled(bool enabled) {
+  enabled_ = enabled;
+  if (form_) form_->screen().Rearranged();
+}
+
+void Control::SetPointer(Pointer pointer) {
+  pointer_ = std::move(pointer);
+  if (form_) form_->screen().Rearranged();
 }
 
 bool Control::ShownOnScreen() const {
@@ -77,7 +90,11 @@ void Control::SetPressed(bool pressed) {
 
 void Control::MouseMove(const MouseArgs& args) {
   if (hand_) pointer_ = hand_->open;
-  if (focusOnMove_) SetFocus();
+  if (focusOnMove_) {
+    const Watch there(*this);
+    SetFocus();
+    if (!there) return;
+  }
   if (OnMouseMove) OnMouseMove(args);
 }
 
@@ -88,6 +105,24 @@ void Control::MouseDown(const MouseArgs& args) {
 
 void Control::Click() {
   if (OnClick) OnClick();
+}
+
+void Control::PaintFocusMark(Surface& surface) const {
+  if (!form_->screen().MarksFocus(*this)) return;
+  constexpr int kInset = 3;
+  const int right = int(place_.width) - 1 - kInset, bottom = int(place_.height) - 1 - kInset;
+  // Both tones, so that it is seen on every picture.
+  const auto dot = [&](int x, int y) {
+    surface.FillRect({double(x), double(y), 1, 1}, (x + y) % 2 ? colors::kWhite : colors::kBlack);
+  };
+  for (int x = kInset; x <= right; ++x) {
+    dot(x, kInset);
+    dot(x, bottom);
+  }
+  for (int y = kInset + 1; y < bottom; ++y) {
+    dot(kInset, y);
+    dot(right, y);
+  }
 }
 
 }  // namespace platform

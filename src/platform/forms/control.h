@@ -57,13 +57,13 @@ class Control {
   void SetVisible(bool visible);
   bool ShownOnScreen() const;  // visible, and so are its containers and its form
   bool enabled() const { return enabled_; }
-  void SetEnabled(bool enabled) { enabled_ = enabled; }
+  void SetEnabled(bool enabled);
 
   const std::string& tag() const { return tag_; }
   void SetTag(std::string tag) { tag_ = std::move(tag); }
   void SetToolTip(std::string text) { toolTip_ = std::move(text); }
   const std::string& toolTip() const { return toolTip_; }
-  void SetPointer(Pointer pointer) { pointer_ = std::move(pointer); }
+  void SetPointer(Pointer pointer);
   const Pointer& pointer() const { return pointer_; }
   // Follows the rule of the hand pointers by itself; with `focusOnMove` a movement over the control
   // gives it the focus too. The pointers must outlive the control.
@@ -92,19 +92,30 @@ class Control {
   virtual Point childOrigin() const { return {}; }  // where children count from, in the control
   Rect InForm(const Rect& r) const;                 // from container to form coordinates
 
-  void MouseMove(const MouseArgs& args);
-  void MouseDown(const MouseArgs& args);
+  virtual void MouseMove(const MouseArgs& args);
+  virtual void MouseDown(const MouseArgs& args);
   virtual void Click();
   void SetPressed(bool pressed);
   bool pressed() const { return pressed_; }
+
+  // A click gives it the focus, and so does Tab when it comes to it.
+  virtual bool focusable() const { return false; }
+  virtual bool tabStop() const { return focusable(); }
+  // The keys come to it, or no longer: it has the focus, and its form is in front.
+  virtual void KeysCome(bool /*come*/) {}
+  virtual bool TakeKey(const Event&) { return false; }  // true if it was of use
 
   // --- Events, set by the form that owns the control.
   std::function<void(const MouseArgs&)> OnMouseMove;
   std::function<void(const MouseArgs&)> OnMouseDown;
   std::function<void()> OnClick;
+  std::function<void()> OnGotFocus;
+  std::function<void()> OnLostFocus;
 
  protected:
   int scale() const;
+  // A thin dotted line inside the edge, for whoever uses the keys.
+  void PaintFocusMark(Surface& surface) const;
 
   std::string name_;
   Form* form_ = nullptr;

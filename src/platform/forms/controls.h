@@ -23,6 +23,8 @@ class CommandButton : public Control {
   void SetBackColor(Color color);
   Color backColor() const { return back_; }
   void Paint(Surface& surface) override { PaintButton(surface, pressed_); }
+  bool focusable() const override { return true; }
+  bool TakeKey(const Event& event) override;
   std::string_view text() const override { return caption_; }
   bool TextFits() const override;
 
@@ -56,8 +58,11 @@ class OptionButton : public CommandButton {
   void SetValue(bool value);  // no event
   void Click() override;
   void Paint(Surface& surface) override;
+  bool tabStop() const override;  // the chosen one of a group, where one is
+  bool TakeKey(const Event& event) override;
 
  private:
+  std::vector<OptionButton*> Group() const;  // in the order of the table, this one included
   bool value_ = false;
 };
 

@@ -9,13 +9,20 @@ namespace platform {
 
 Form::Form(Screen& screen, std::string name, int width, int height, Color back)
     : screen_(screen), name_(std::move(name)), width_(width), height_(height), back_(back) {
-  PlaceOnPlane();
+  Place();
 }
 
 Form::~Form() {
   // Controls are members of the derived form and are gone by now; nothing may look for them.
   controls_.clear();
   screen_.Forget(this);
+}
+
+void Form::Place() {
+  if (placedOn_ == screen_.planeSize()) return;
+  placedOn_ = screen_.planeSize();
+  PlaceOnPlane();
+  screen_.Rearranged();
 }
 
 void Form::PlaceOnPlane() {
@@ -47,6 +54,17 @@ void Form::MoveOnPlane(int deviceLeft, int deviceTop) {
   left_ = deviceLeft;
   top_ = deviceTop;
   Invalidate();
+  screen_.Rearranged();
+}
+
+void Form::SetPointer(Pointer pointer) {
+  pointer_ = std::move(pointer);
+  screen_.Rearranged();
+}
+
+void Form::Adopt(Control* control) {
+  controls_.push_back(control);
+  screen_.Rearranged();
 }
 
 void Form::BeginDrag() { screen_.Drag(*this); }
@@ -59,6 +77,7 @@ void Form::Load() {
 
 void Form::Show() {
   Load();
+  Place();  // the window may have changed since
   shown_ = true;
   screen_.BringIn(*this);
   Invalidate();
@@ -181,11 +200,10 @@ Control* Form::HitTest(double x, double y) const {
   return nullptr;
 }
 
-void Form::SetFocus(Control* control) { focus_ = control; }
-
 void Form::Forget(Control* control) {
   std::erase(controls_, control);
   if (focus_ == control) focus_ = nullptr;
+  if (cancel_ == control) cancel_ = nullptr;
   screen_.Forget(control);
 }
 

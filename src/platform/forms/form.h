@@ -46,7 +46,7 @@ class Form {
   void Invalidate();
   void Invalidate(const Rect& r);
   void Resize(int width, int height);  // keeps its left and top
-  void SetPointer(Pointer pointer) { pointer_ = std::move(pointer); }
+  void SetPointer(Pointer pointer);
   const Pointer& pointer() const { return pointer_; }
 
   // A corner ellipse of ew by eh, or a closed polygon; null shape is the whole rectangle.
@@ -63,6 +63,7 @@ class Form {
   void MoveOnPlane(int deviceLeft, int deviceTop);
   // How the form is placed when the plane gets its size; centred unless a form says otherwise.
   virtual void PlaceOnPlane();
+  void Place();  // does that, once for each size of the plane
   // Starts dragging the whole form with the mouse, until the button is released.
   void BeginDrag();
 
@@ -73,9 +74,19 @@ class Form {
   bool ContainsPoint(double x, double y) const;  // by the shape
   void Compose(Surface& plane, const DeviceRect& area);
   void Forget(Control* control);
-  void Adopt(Control* control) { controls_.push_back(control); }
+  void Adopt(Control* control);
+
+  // --- Keys
   Control* focus() const { return focus_; }
   void SetFocus(Control* control);
+  void FocusNext(bool backwards);  // in the order of the table, round and round
+  // The control that Escape clicks, where a click would reach it.
+  void SetCancel(Control& control) { cancel_ = &control; }
+  Control* cancel() const { return cancel_; }
+
+  // A box of the system is no form of the program: it comes and goes over the others without a
+  // Form_Activate, its own or theirs.
+  virtual bool systemBox() const { return false; }
 
   // --- Events
   virtual void Form_Load() {}
@@ -115,11 +126,13 @@ class Form {
   Surface scratch_;  // a shaped form is composed here before it is laid on the plane
   int left_ = 0;
   int top_ = 0;
+  PixelSize placedOn_;
   bool loaded_ = false;
   bool shown_ = false;
   Pointer pointer_;
   std::vector<Control*> controls_;
   Control* focus_ = nullptr;
+  Control* cancel_ = nullptr;
 };
 
 }  // namespace platform

@@ -47,7 +47,10 @@ class Box : public Form {
     const bool yesNo = buttons == MsgButtons::YesNo;
     CmdFirst.OnClick = [this, yesNo] { Close(yesNo ? MsgResult::Yes : MsgResult::Ok); };
     CmdSecond.OnClick = [this] { Close(MsgResult::No); };
+    CmdFirst.SetFocus();
+    SetCancel(yesNo ? CmdSecond : CmdFirst);
   }
+  bool systemBox() const override { return true; }
 
   MsgResult result = MsgResult::Ok;
 

@@ -1,5 +1,6 @@
 // The system's plain message box, drawn by the program itself: it needs no picture and no sound, so
-// that it can also say why there is none.
+// that it can also say why there is none. The forms under it do not notice: none of them is
+// activated when it comes or goes.
 #pragma once
 
 #include <string>

@@ -1,5 +1,7 @@
+#include <algorithm>
+
 #include "platform/forms/controls.h"
-#include "platform/forms/form.h"
+#include "platform/forms/screen.h"
 
 namespace platform {
 
@@ -15,15 +17,43 @@ void OptionButton::Apply(const Look& look) {
   value_ = look.value;
 }
 
+std::vector<OptionButton*> OptionButton::Group() const {
+  std::vector<OptionButton*> group;
+  for (Control* control : form_->controls())
+    if (control->container() == container_)
+      if (auto* option = dynamic_cast<OptionButton*>(control)) group.push_back(option);
+  return group;
+}
+
 void OptionButton::SetValue(bool value) {
   if (value == value_) return;
   value_ = value;
   Invalidate();
-  if (!value || !form_) return;
-  for (Control* control : form_->controls()) {
-    auto* other = dynamic_cast<OptionButton*>(control);
-    if (other && other != this && other->container_ == container_) other->SetValue(false);
-  }
+  if (value)
+    for (OptionButton* other : Group())
+      if (other != this) other->SetValue(false);
+}
+
+bool OptionButton::tabStop() const {
+  const auto group = Group();
+  return value_ ||
+         std::none_of(group.begin(), group.end(), [](const auto* o) { return o->value_; });
+}
+
+bool OptionButton::TakeKey(const Event& event) {
+  const bool forth = event.key == Key::Right || event.key == Key::Down;
+  const bool back = event.key == Key::Left || event.key == Key::Up;
+  if (event.kind != EventKind::KeyDown || !(forth || back)) return CommandButton::TakeKey(event);
+  auto group = Group();
+  std::erase_if(group,
+                [this](OptionButton* o) { return o != this && !form_->screen().CanClick(*o); });
+  if (back) std::reverse(group.begin(), group.end());
+  const auto at = std::find(group.begin(), group.end(), this);
+  OptionButton& next = at + 1 == group.end() ? *group.front() : **(at + 1);
+  const Watch there(next);
+  next.SetFocus();
+  if (there && form_->screen().CanClick(next)) next.Click();
+  return true;
 }
 
 void OptionButton::Click() {

@@ -25,17 +25,20 @@ class Screen {
 
   Host& host() { return host_; }
   int scale() const { return scale_; }
-  PixelSize planeSize() const { return planeSize_; }  // device pixels
+  PixelSize planeSize() const {  // device pixels
+    return {plane_.deviceWidth(), plane_.deviceHeight()};
+  }
   double windowPixelsPerLogical() const { return fit_; }
   const Surface& plane() const { return plane_; }
   // Logical plane coordinates to window pixels, the middle of the point.
   Point ToWindow(Point logical) const;
+  DeviceRect WindowPixels(const Rect& logical) const;  // those that it touches
 
   // --- The loop
   void Run();  // until the program ends: never returns otherwise than by ProgramEnded
   [[noreturn]] void EndProgram();
-  // Blocks for the time told, runs no event, keeps the window alive and throws away the clicks made
-  // meanwhile. What was changed before is shown first.
+  // Blocks for the time told, runs no event, keeps the window alive and throws away the clicks and
+  // keys made meanwhile. What was changed before is shown first.
   void Wait(double milliseconds);
   // As Wait, up to a point of the host's clock; returns at once if that has passed.
   void WaitUntil(std::int64_t micros);
@@ -67,13 +70,27 @@ class Screen {
   // From now on every movement, press and click goes to this control, wherever the pointer is, until
   // another is told or null, or the control is no longer seen.
   void SetCapture(Control* control);
-  // Keeps the pointer in a rectangle of plane coordinates (logical) or frees it.
-  void ClipCursor(const std::optional<Rect>& area);
+  // Keeps the pointer in a rectangle of the form, wherever that goes, as long as the form is shown;
+  // while another form takes the input the pointer is free.
+  void ClipCursor(Form& owner, const Rect& area);
+  void FreeCursor();
   Control* pressed() const { return pressed_; }
+  // Whether a click in the middle of the control would reach it.
+  bool CanClick(const Control& control) const;
+
+  // --- Keys go to the control that has the focus in the front form.
+  bool HasKeys(const Control& control) const { return keys_ == &control; }
+  // Focus is marked from the first key to the next move of the mouse.
+  bool MarksFocus(const Control& control) const { return marksFocus_ && HasKeys(control); }
+  void TakeText(const Control& control, const Rect& caret);  // in the control
 
   // --- For timers, controls and sounds
+  // Something has moved, come or gone: what the pointer and the keys reach is worked out anew
+  // before the next wait.
+  void Rearranged() { rearranged_ = true; }
   void AddTimer(Timer* timer) { timers_.push_back(timer); }
   void RemoveTimer(Timer* timer);
+  void LetGo(Control* control);  // it is no longer there to be pressed
   void Forget(Control* control);
   void Forget(Form* form);
   // Whoever keeps a record of a game is told of each sound and each form.
@@ -84,12 +101,27 @@ class Screen {
   }
 
  private:
-  void Measure();
+  friend class Watch;
+
+  // The loop.
+  bool FrontIsNew() const;
   void RunWhile(const std::function<bool()>& go);
   void RunTimers();
   std::int64_t NextDue() const;
+  bool Take(Event& event, std::int64_t deadline, bool blocked);
   void Dispatch(const Event& event);
   bool HandleSystem(const Event& event);  // true if that was all
+  void Settle();
+
+  // Painting.
+  void Measure();
+  void Compose(const DeviceRect& area);
+  void ShowTip();
+  void HideTip();
+  void PaintTip(const DeviceRect& area);
+
+  // Mouse.
+  Point PlacePointer(const Event& event);
   void MouseMoved(Point at);
   void MousePressed(Point at, MouseButton button);
   void MouseReleased(Point at, MouseButton button);
@@ -100,37 +132,66 @@ class Screen {
   Control* Holder() const { return Captured() ? captured_ : pressed_; }
   Point InForm(const Form& form, Point at) const;
   MouseArgs ArgsFor(const Control& control, const Form& form, Point at, MouseButton button) const;
-  void UpdatePointer(Point at);
-  void Compose(const DeviceRect& area);
-  void ShowTip();
-  void HideTip();
-  void PaintTip(const DeviceRect& area);
+  void UpdatePointer();
+  std::optional<Rect> ClipArea() const;  // on the plane
+  void ApplyClip();
+
+  // Keys.
+  void KeyPressed(const Event& event);
+  void Escape();
+  void AimKeys();
+  void MarkFocus(bool mark);
 
   Host& host_;
   int fixedScale_;
   int scale_ = 1;
   double fit_ = 1;
   PixelSize window_;
-  PixelSize planeSize_;
   Surface plane_;
   std::vector<DeviceRect> invalid_;
+  std::int64_t shownAt_ = 0;
+
   std::vector<Form*> forms_;
   std::vector<Form*> modal_;
   std::vector<std::unique_ptr<Form>> owned_;
   Form* active_ = nullptr;
   std::vector<Timer*> timers_;
+  std::vector<class Watch*> watches_;
+  bool ended_ = false;
+  bool rearranged_ = false;
+  std::optional<Event> next_;  // came behind motions of the pointer
+  bool carried_ = false;       // nothing but the pointer has moved since the last picture
+
   Control* pressed_ = nullptr;
   Control* captured_ = nullptr;
-  Control* hovered_ = nullptr;
   Form* dragged_ = nullptr;
-  Point dragFrom_;
+  Point grab_;  // of the dragged form, in device pixels with their fractions
   Point mouse_;
-  std::optional<Rect> clip_;
+  Form* clipOwner_ = nullptr;
+  Rect clip_;  // in its owner
+  std::optional<DeviceRect> shownClip_;
   Pointer shownPointer_;
-  bool ended_ = false;
   Control* tipFor_ = nullptr;  // waits for its tip, or shows it
   std::int64_t tipDue_ = 0;
   DeviceRect tipArea_;  // empty while no tip is shown
+
+  Control* keys_ = nullptr;
+  bool marksFocus_ = false;
+};
+
+// Tells whether a control is still there after a handler has run.
+class Watch {
+ public:
+  explicit Watch(Control& control);
+  ~Watch();
+  Watch(const Watch&) = delete;
+  Watch& operator=(const Watch&) = delete;
+  explicit operator bool() const { return control_ != nullptr; }
+
+ private:
+  friend class Screen;
+  Screen& screen_;
+  Control* control_;
 };
 
 }  // namespace platform

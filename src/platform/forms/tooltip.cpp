@@ -22,8 +22,8 @@ void Screen::ShowTip() {
   const double k = scale_;
   Rect place{mouse_.x - width / 2, mouse_.y + 20, width, height};
   // Above the pointer where there is no room below it.
-  if (place.bottom() > planeSize_.height / k) place.top = mouse_.y - 6 - height;
-  place.left = std::clamp(place.left, 0.0, std::max(0.0, planeSize_.width / k - width));
+  if (place.bottom() > planeSize().height / k) place.top = mouse_.y - 6 - height;
+  place.left = std::clamp(place.left, 0.0, std::max(0.0, planeSize().width / k - width));
   tipArea_ = ToDevice(place, scale_);
   Invalidate(tipArea_);
 }

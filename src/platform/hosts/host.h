@@ -6,6 +6,7 @@
 #include <ctime>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "platform/drawing/geometry.h"
@@ -19,6 +20,9 @@ enum class EventKind {
   MouseDown,
   MouseUp,
   MouseLeave,  // the pointer has left the window
+  KeyDown,     // a key that means something by itself
+  Text,        // what was typed, however many keys it took
+  Composing,   // what is being typed and not yet text: replaces what was so before
   Expose,      // the window's content is lost: show it all again
   Resize,      // the window has another size
   Quit,        // the window was closed from the system
@@ -26,11 +30,37 @@ enum class EventKind {
 
 enum class MouseButton { Left = 1, Middle = 2, Right = 3 };
 
+// Letters are those of the keyboard's layout, as commands with ctrl; as letters they come in Text.
+enum class Key {
+  None,
+  Tab,
+  Enter,
+  Escape,
+  Space,
+  Backspace,
+  Delete,
+  Left,
+  Right,
+  Up,
+  Down,
+  Home,
+  End,
+  A,
+  C,
+  V,
+  X,
+};
+
 struct Event {
   EventKind kind = EventKind::MouseMove;
   int x = 0;  // window pixels
   int y = 0;
   MouseButton button = MouseButton::Left;
+  Key key = Key::None;
+  bool shift = false;
+  bool ctrl = false;
+  bool alt = false;
+  std::string text = {};  // UTF-8
 };
 
 struct PixelSize {
@@ -41,7 +71,7 @@ struct PixelSize {
 
 // A pointer shape. A custom one is a picture with a hot spot, both in logical pixels.
 struct Pointer {
-  enum class Kind { Arrow, Hourglass, SizeAll, Custom };
+  enum class Kind { Arrow, Hourglass, SizeAll, IBeam, Custom };
   Kind kind = Kind::Arrow;
   std::shared_ptr<const class Picture> picture;
   int hotX = 0;
@@ -62,19 +92,27 @@ class Host {
   virtual std::tm LocalTime() = 0;       // of the wall clock, for a date that is read
   // Sleeps until an event or the deadline, whichever comes first; false at the deadline.
   virtual bool WaitEvent(Event& event, std::int64_t deadlineMicros) = 0;
+  // An event that waits already; false if none does.
+  virtual bool PollEvent(Event& event) = 0;
   // As WaitEvent, for a blocking wait in which no input counts: a scripted host offers none.
   virtual bool WaitBlocked(Event& event, std::int64_t deadlineMicros) {
     return WaitEvent(event, deadlineMicros);
   }
 
-  // Shows the changed parts of the plane at once. `plane` is planeWidth by planeHeight device
-  // pixels of the surface (the surface may be larger by less than its scale).
-  virtual void Show(const Surface& plane, PixelSize planeSize,
-                    const std::vector<DeviceRect>& changed) = 0;
+  // Shows the changed parts of the plane at once.
+  virtual void Show(const Surface& plane, const std::vector<DeviceRect>& changed) = 0;
+  // How long the display takes from one picture to the next; 0 if it shows each.
+  virtual std::int64_t FrameMicros() { return 0; }
 
   virtual void SetPointer(const Pointer& pointer, double windowPixelsPerLogical) = 0;
   // Keeps the pointer inside a rectangle of window pixels, or frees it.
   virtual void ClipPointer(const std::optional<DeviceRect>& area) = 0;
+
+  // Where text is typed, in window pixels, for whatever helps with typing; nothing while a key is
+  // no text to anybody.
+  virtual void TakeText(const std::optional<DeviceRect>& caret) = 0;
+  virtual std::string Clipboard() = 0;
+  virtual void SetClipboard(const std::string& text) = 0;
 
   // One voice: a new sound cuts the old one off; null is silence. Errors are silence too.
   virtual void PlaySound(const std::shared_ptr<const Wave>& wave) = 0;

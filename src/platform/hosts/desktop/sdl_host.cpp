@@ -21,9 +21,53 @@ namespace {
 constexpr int kWindowWidth = 1000;
 constexpr int kWindowHeight = 750;
 
+Key KeyOf(SDL_Keycode code) {
+  switch (code) {
+    case SDLK_TAB:
+      return Key::Tab;
+    case SDLK_RETURN:
+    case SDLK_KP_ENTER:
+      return Key::Enter;
+    case SDLK_ESCAPE:
+      return Key::Escape;
+    case SDLK_SPACE:
+      return Key::Space;
+    case SDLK_BACKSPACE:
+      return Key::Backspace;
+    case SDLK_DELETE:
+      return Key::Delete;
+    case SDLK_LEFT:
+      return Key::Left;
+    case SDLK_RIGHT:
+      return Key::Right;
+    case SDLK_UP:
+      return Key::Up;
+    case SDLK_DOWN:
+      return Key::Down;
+    case SDLK_HOME:
+      return Key::Home;
+    case SDLK_END:
+      return Key::End;
+    case SDLK_a:
+      return Key::A;
+    case SDLK_c:
+      return Key::C;
+    case SDLK_v:
+      return Key::V;
+    case SDLK_x:
+      return Key::X;
+    default:
+      return Key::None;
+  }
+}
+
+// A key that is held down goes on with these; it does not press a button again and again.
+bool Repeats(Key key) { return key != Key::Enter && key != Key::Space && key != Key::Escape; }
+
 class SdlHost : public Host {
  public:
   SdlHost(SDL_Window* window, const DesktopOptions& options) : window_(window) {
+    SDL_StopTextInput();
     int error = 0;
     if (const auto icon = Picture::Load(options.iconPath, error)) {
       // SDL copies the icon, so that the pixels need to live only for the call.
@@ -98,15 +142,27 @@ class SdlHost : public Host {
     }
   }
 
-  void Show(const Surface& plane, PixelSize planeSize,
-            const std::vector<DeviceRect>& changed) override {
+  bool PollEvent(Event& event) override {
+    SDL_Event sdl;
+    while (SDL_PollEvent(&sdl))
+      if (Translate(sdl, event)) return true;
+    return false;
+  }
+
+  std::int64_t FrameMicros() override {
+    SDL_DisplayMode mode;
+    if (SDL_GetCurrentDisplayMode(SDL_GetWindowDisplayIndex(window_), &mode) != 0) return 0;
+    return 1'000'000 / (mode.refresh_rate > 0 ? mode.refresh_rate : 60);
+  }
+
+  void Show(const Surface& plane, const std::vector<DeviceRect>& changed) override {
     SDL_Surface* target = SDL_GetWindowSurface(window_);
     if (!target || target->format->BytesPerPixel != 4) return;
+    const PixelSize from{plane.deviceWidth(), plane.deviceHeight()};
     const PixelSize window{target->w, target->h};
-    if (!reducer_ || planeSize != reducedPlane_ || window != reducedWindow_) {
-      reducer_ =
-          std::make_unique<Reducer>(planeSize.width, planeSize.height, window.width, window.height);
-      reducedPlane_ = planeSize;
+    if (!reducer_ || from != reducedPlane_ || window != reducedWindow_) {
+      reducer_ = std::make_unique<Reducer>(from.width, from.height, window.width, window.height);
+      reducedPlane_ = from;
       reducedWindow_ = window;
     }
     if (SDL_MUSTLOCK(target) && SDL_LockSurface(target) != 0) return;
@@ -139,6 +195,22 @@ class SdlHost : public Host {
     SDL_SetWindowMouseRect(window_, &rect);
   }
 
+  void TakeText(const std::optional<DeviceRect>& caret) override {
+    if (!caret) return SDL_StopTextInput();
+    const SDL_Rect rect{caret->left, caret->top, caret->width(), caret->height()};
+    SDL_SetTextInputRect(&rect);
+    if (!SDL_IsTextInputActive()) SDL_StartTextInput();
+  }
+
+  std::string Clipboard() override {
+    char* text = SDL_GetClipboardText();
+    std::string copy = text ? text : "";
+    SDL_free(text);
+    return copy;
+  }
+
+  void SetClipboard(const std::string& text) override { SDL_SetClipboardText(text.c_str()); }
+
   void PlaySound(const std::shared_ptr<const Wave>& wave) override {
     // Opening the sound system takes as long as the window does: the first picture goes first.
     if (shown_)
@@ -159,21 +231,26 @@ class SdlHost : public Host {
         event.kind = EventKind::Quit;
         return true;
       case SDL_MOUSEMOTION:
-        event = {EventKind::MouseMove, sdl.motion.x, sdl.motion.y, MouseButton::Left};
+        event = {.kind = EventKind::MouseMove, .x = sdl.motion.x, .y = sdl.motion.y};
         return true;
       case SDL_MOUSEBUTTONDOWN:
       case SDL_MOUSEBUTTONUP:
         if (sdl.button.button < SDL_BUTTON_LEFT || sdl.button.button > SDL_BUTTON_RIGHT)
           return false;
-        event = {sdl.type == SDL_MOUSEBUTTONDOWN ? EventKind::MouseDown : EventKind::MouseUp,
-                 sdl.button.x, sdl.button.y, MouseButton(sdl.button.button)};
+        event = {
+            .kind = sdl.type == SDL_MOUSEBUTTONDOWN ? EventKind::MouseDown : EventKind::MouseUp,
+            .x = sdl.button.x,
+            .y = sdl.button.y,
+            .button = MouseButton(sdl.button.button)};
         return true;
-      case SDL_KEYDOWN: {
-        const bool altEnter =
-            sdl.key.keysym.sym == SDLK_RETURN && (sdl.key.keysym.mod & KMOD_ALT) != 0;
-        if ((sdl.key.keysym.sym == SDLK_F11 || altEnter) && !sdl.key.repeat) ToggleFullScreen();
-        return false;
-      }
+      case SDL_KEYDOWN:
+        return TranslateKey(sdl.key, event);
+      case SDL_TEXTINPUT:
+        event = {.kind = EventKind::Text, .text = sdl.text.text};
+        return true;
+      case SDL_TEXTEDITING:
+        event = {.kind = EventKind::Composing, .text = sdl.edit.text};
+        return true;
       case SDL_WINDOWEVENT:
         switch (sdl.window.event) {
           case SDL_WINDOWEVENT_SIZE_CHANGED:
@@ -191,6 +268,21 @@ class SdlHost : public Host {
       default:
         return false;
     }
+  }
+
+  bool TranslateKey(const SDL_KeyboardEvent& sdl, Event& event) {
+    const SDL_Keysym& pressed = sdl.keysym;
+    const bool altEnter = pressed.sym == SDLK_RETURN && (pressed.mod & KMOD_ALT) != 0;
+    if (pressed.sym == SDLK_F11 || altEnter) {
+      if (!sdl.repeat) ToggleFullScreen();
+      return false;
+    }
+    event = {.kind = EventKind::KeyDown,
+             .key = KeyOf(pressed.sym),
+             .shift = (pressed.mod & KMOD_SHIFT) != 0,
+             .ctrl = (pressed.mod & KMOD_CTRL) != 0,
+             .alt = (pressed.mod & KMOD_ALT) != 0};
+    return event.key != Key::None && (!sdl.repeat || Repeats(event.key));
   }
 
   void ToggleFullScreen() {
@@ -223,6 +315,9 @@ class SdlHost : public Host {
         break;
       case Pointer::Kind::SizeAll:
         cursor = SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_SIZEALL);
+        break;
+      case Pointer::Kind::IBeam:
+        cursor = SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_IBEAM);
         break;
       case Pointer::Kind::Custom:
         cursor = CustomCursor(pointer, scale);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/drawing/clusters.h"
 #include "platform/drawing/reduce.h"
 
 namespace platform {
@@ -24,18 +25,33 @@ void HeadlessHost::Click(Point at, MouseButton button) {
   Queue({EventKind::MouseUp, x, y, button});
 }
 
+void HeadlessHost::Press(Key key, bool shift, bool ctrl) {
+  Queue({.kind = EventKind::KeyDown, .key = key, .shift = shift, .ctrl = ctrl});
+}
+
+void HeadlessHost::Type(const std::string& text) {
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = NextCluster(text, at);
+    Queue({.kind = EventKind::Text, .text = text.substr(at, end - at)});
+    at = end;
+  }
+}
+
 void HeadlessHost::Resize(PixelSize window) {
   window_ = window;
   Queue({EventKind::Resize, 0, 0, MouseButton::Left});
 }
 
+bool HeadlessHost::PollEvent(Event& event) {
+  if (queue_.empty()) return false;
+  event = std::move(queue_.front());
+  queue_.pop_front();
+  return true;
+}
+
 bool HeadlessHost::Next(Event& event, std::int64_t deadline, const std::function<void()>& ask) {
   if (queue_.empty() && ask) ask();
-  if (!queue_.empty()) {
-    event = queue_.front();
-    queue_.pop_front();
-    return true;
-  }
+  if (PollEvent(event)) return true;
   if (deadline == kForever) {
     // Nothing will ever happen again: the machine is switched off.
     event.kind = EventKind::Quit;
@@ -53,12 +69,9 @@ bool HeadlessHost::WaitBlocked(Event& event, std::int64_t deadline) {
   return Next(event, deadline, OnBlocked);
 }
 
-void HeadlessHost::Show(const Surface& plane, PixelSize planeSize,
-                        const std::vector<DeviceRect>& changed) {
+void HeadlessHost::Show(const Surface& plane, const std::vector<DeviceRect>& changed) {
   ++shows_;
-  planeSize_ = planeSize;
-  if (shown_.width() != plane.width() || shown_.height() != plane.height() ||
-      shown_.scale() != plane.scale()) {
+  if (shown_.deviceBounds() != plane.deviceBounds() || shown_.scale() != plane.scale()) {
     shown_ = plane;
   } else {
     for (const DeviceRect& r : changed)
@@ -71,7 +84,7 @@ void HeadlessHost::Show(const Surface& plane, PixelSize planeSize,
 Surface HeadlessHost::Shot() const {
   Surface out(window_.width, window_.height, 1, colors::kBlack);
   if (shown_.width() == 0) return out;
-  Reducer reducer(planeSize_.width, planeSize_.height, window_.width, window_.height);
+  Reducer reducer(shown_.deviceWidth(), shown_.deviceHeight(), window_.width, window_.height);
   reducer.Run(shown_.row(0), shown_.deviceWidth(), out.row(0), out.deviceWidth(),
               out.deviceBounds());
   return out;

@@ -27,6 +27,8 @@ class HeadlessHost : public Host {
   void Queue(const Event& event) { queue_.push_back(event); }
   // Moves the pointer there, presses and releases.
   void Click(Point windowPixel, MouseButton button = MouseButton::Left);
+  void Press(Key key, bool shift = false, bool ctrl = false);
+  void Type(const std::string& text);  // character by character
   void Resize(PixelSize window);
 
   // What a person would see: the plane as last shown, reduced to the window.
@@ -34,6 +36,7 @@ class HeadlessHost : public Host {
   const Surface& planeShown() const { return shown_; }
   const Pointer& pointer() const { return pointer_; }
   const std::optional<DeviceRect>& pointerArea() const { return pointerArea_; }
+  const std::optional<DeviceRect>& textArea() const { return textArea_; }
   std::int64_t shows() const { return shows_; }
 
   PixelSize WindowSize() override { return window_; }
@@ -41,11 +44,14 @@ class HeadlessHost : public Host {
   std::int64_t NowMicros() override { return now_; }
   std::tm LocalTime() override { return wallClock; }
   bool WaitEvent(Event& event, std::int64_t deadlineMicros) override;
+  bool PollEvent(Event& event) override;
   bool WaitBlocked(Event& event, std::int64_t deadlineMicros) override;
-  void Show(const Surface& plane, PixelSize planeSize,
-            const std::vector<DeviceRect>& changed) override;
+  void Show(const Surface& plane, const std::vector<DeviceRect>& changed) override;
   void SetPointer(const Pointer& pointer, double) override { pointer_ = pointer; }
   void ClipPointer(const std::optional<DeviceRect>& area) override { pointerArea_ = area; }
+  void TakeText(const std::optional<DeviceRect>& caret) override { textArea_ = caret; }
+  std::string Clipboard() override { return clipboard_; }
+  void SetClipboard(const std::string& text) override { clipboard_ = text; }
   void PlaySound(const std::shared_ptr<const Wave>&) override {}
 
  private:
@@ -56,9 +62,9 @@ class HeadlessHost : public Host {
   std::int64_t now_ = 0;
   std::deque<Event> queue_;
   Surface shown_;
-  PixelSize planeSize_;
   Pointer pointer_;
-  std::optional<DeviceRect> pointerArea_;
+  std::optional<DeviceRect> pointerArea_, textArea_;
+  std::string clipboard_;
   std::int64_t shows_ = 0;
 };
 

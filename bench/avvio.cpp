@@ -38,11 +38,18 @@ class HostMisurato : public platform::Host {
   void ClipPointer(const std::optional<platform::DeviceRect>& r) override { vero_->ClipPointer(r); }
   void PlaySound(const std::shared_ptr<const platform::Wave>& w) override { vero_->PlaySound(w); }
 
-  void Show(const platform::Surface& plane, platform::PixelSize size,
+  std::tm LocalTime() override { return vero_->LocalTime(); }
+  bool PollEvent(platform::Event& event) override { return vero_->PollEvent(event); }
+  std::int64_t FrameMicros() override { return vero_->FrameMicros(); }
+  void TakeText(const std::optional<platform::DeviceRect>& r) override { vero_->TakeText(r); }
+  std::string Clipboard() override { return vero_->Clipboard(); }
+  void SetClipboard(const std::string& text) override { vero_->SetClipboard(text); }
+
+  void Show(const platform::Surface& plane,
             const std::vector<platform::DeviceRect>& changed) override {
-    vero_->Show(plane, size, changed);
+    vero_->Show(plane, changed);
     // The first picture that covers the window is the start screen's.
-    if (!mostrato_ && changed[0].width() >= size.width) {
+    if (!mostrato_ && changed[0].width() >= plane.deviceWidth() - plane.scale()) {
       const std::chrono::duration<double, std::milli> ms = Clock::now() - start_;
       std::printf("first-picture-ms %.1f\n", ms.count());
       mostrato_ = true;

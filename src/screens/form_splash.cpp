@@ -73,7 +73,7 @@ void Splash::RigheGiocatore(int p) {
       {.back = 0, .border = false});
   Row(g.Frm, nomi.Frm, {540, nomi.top, 252, 89},
       {.caption = "Nome:", .font = Verdana(9.75), .back = colore});
-  Row(g.Txt, nomi.Txt, {82, 16, 161, 26}, {.caption = nomi.nome, .font = Verdana(12, true), .back = 0xFFFFFF, .transparent = false}, &g.Frm);
+  Row(g.Txt, nomi.Txt, {82, 16, 161, 26}, {.text = nomi.nome, .font = Verdana(12, true)}, &g.Frm);
   Row(g.cmdRitratto, nomi.cmdRitratto, {16, 24, kLatoRitratto, kLatoRitratto},
       {.back = colore, .border = true}, &g.Frm);
   Row(g.Lblcolore, nomi.Lblcolore, {80, 72, 172, 13},
@@ -108,6 +108,7 @@ void Splash::RigheComandi() {
        .back = 0x808080,
        .toolTip = "ESCI DAL GIOCO",
        .hand = &a_.mani});
+  SetCancel(cmdExit);
   CmdOK.OnClick = [this] { CmdOK_Click(); };
   CmdHelp.OnClick = [this] { CmdHelp_Click(); };
   cmdExit.OnClick = [this] { cmdExit_Click(); };
@@ -126,8 +127,8 @@ void Splash::Form_Load() {
   TopTitoli = kAltoTitoli;
   StampaTitoli(false);
   Show();
-  
-  
+  giocatori_[1].Txt.SetFocus();
+  giocatori_[1].Txt.SelectAll();
   for (int p : {1, 2}) {
     Ritratto[p] = kPrimoRitratto[p] + Estrai(kRitratti);
     MostraRitratto(p);
@@ -197,7 +198,7 @@ void Splash::picRitratto_Click(int p, int Index) {
 
 void Splash::CmdOK_Click() {
   SuonoSeTace("117");
-  for (int p : {1, 2}) Nome[p] = TroncaNome(giocatori_[p].Txt.caption());
+  for (int p : {1, 2}) Nome[p] = TroncaNome(std::string_view(giocatori_[p].Txt.text()));
   servizi().schermi->ApriTabellone();
   Unload();
 }
@@ -228,9 +229,9 @@ void Splash::TornaDallaDomanda() {
 }
 
 void Splash::MostraComandi(bool visibili) {
-  for (platform::Control* c : {static_cast<platform::Control*>(&cmdExit),
-                               static_cast<platform::Control*>(&CmdHelp),
-                               static_cast<platform::Control*>(&CmdOK)})
+  for (platform::Control* c :
+       {static_cast<platform::Control*>(&cmdExit), static_cast<platform::Control*>(&CmdHelp),
+        static_cast<platform::Control*>(&CmdOK)})
     c->SetVisible(visibili);
   for (int p : {1, 2}) {
     giocatori_[p].Frm.SetVisible(visibili);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "comune/ambiente.h"
+#include "platform/forms/text_box.h"
 
 namespace girovia {
 
@@ -21,7 +22,7 @@ class Splash : public platform::Form, public SchermataIniziale {
   // What each of the two players has, alike but for the names and the places.
   struct Giocatore {
     platform::Frame Frm, FrmGalleria, ombraFrm, ombraGalleria;
-    platform::Label Txt;
+    platform::TextBox Txt;
     platform::PictureBox cmdRitratto;
     platform::ControlArray<platform::OptionButton> OptColore;
     platform::Label Lblcolore;

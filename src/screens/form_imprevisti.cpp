@@ -26,6 +26,10 @@ FormImprevisti::FormImprevisti(Ambiente& ambiente) : PaginaGiornale(ambiente, "F
   RigheArticolo(168, 400, 15.75);
   Row(ImgAereo, "ImgAereo", {280, 360, 32, 32},
       {.picture = a_.immagini.DiSchermata("FormImprevisti.ImgAereo"), .visible = false});
+  // The columns come out from under the frame: what is below it stays as it was drawn.
+  Row(LinePiede.Load(0), "LinePiede(0)", {},
+      {.x1 = 1, .y1 = 417, .x2 = 377, .y2 = 417, .width = 2, .color = 0xFFFFFF});
+  Row(LinePiede.Load(1), "LinePiede(1)", {}, {.x1 = 0, .y1 = 418, .x2 = 378, .y2 = 418});
   RigheFronte({});
   cmdRisposta.OnClick = [this] { cmdRisposta_Click(); };
   Row(Timer1, 120, false, [this] { Timer1_Timer(); });

@@ -17,6 +17,7 @@ class FormImprevisti : public PaginaGiornale {
   void cmdRisposta_Click();
 
   platform::Image ImgAereo;
+  platform::ControlArray<platform::Line> LinePiede;
   platform::Timer Timer1;
 };
 

@@ -24,7 +24,7 @@ FormInfo::FormInfo(Ambiente& ambiente) : PaginaGiornale(ambiente, "FormInfo") {
        .maxWidth = 90});
   // A long date keeps off the word beside it.
   Row(lblGiornale.Load(4), "lblGiornale(4)", {8, 136, 0, 0},
-      {.font = Times(9.75, true), .fore = kBlu, .autoSize = true, .maxWidth = 240});
+      {.font = Times(9.75, true), .fore = kBlu, .autoSize = true, .maxWidth = 232});
   RigheParola("info", 106, kBlu);
   RigheArticolo(160, kColonne, 12);
   ScriviTitolo("UN VIAGGIO ALLA SCOPERTA DELL'EUROPA");

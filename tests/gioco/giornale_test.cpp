@@ -38,6 +38,14 @@ TEST(Giornale, ColumnsRiseAndThenThePortraitPulses) {
                                                                  : Rect{318, 358, 54, 54}));
     EXPECT_TRUE(form.Find("ImgAereo")->visible());
     EXPECT_FALSE(UscitaInVista(banco));
+    // Nothing of the columns shows below the frame.
+    const platform::Surface foto = banco.host.Shot();
+    const Rect foglio = form.PlaneRect();
+    for (double x = 5; x < 370; ++x) {
+      ASSERT_EQ(foto.PixelAt(foglio.left + x, foglio.top + 416), 0xFFFFFFu) << x;
+      ASSERT_EQ(foto.PixelAt(foglio.left + x, foglio.top + 417), 0xFFFFFFu) << x;
+      ASSERT_EQ(foto.PixelAt(foglio.left + x, foglio.top + 418), 0u) << x;
+    }
   };
   std::deque<std::function<void()>> passi(40, guarda);
   passi.push_front([&] {
@@ -61,7 +69,7 @@ TEST(Giornale, EveryCardFitsItsPage) {
   cartella.Alleggerisci();
   Banco banco(1, cartella.percorso());
   banco.Passi({[&] {
-    for (const char* nome : {"Primo", "Massimiliano", "WW WWWW W WW...", "WWWWWWWWWWWW...", ""})
+    for (const char* nome : {"Primo", "Massimiliano", "WWWWWWW WWWW...", "WWWWWWWWWWWW...", ""})
       for (int n = 0; n < 62; ++n) {
         SCOPED_TRACE(std::string(nome) + " " + std::to_string(n));
         Giocatore = 1 + n % 2;

@@ -132,7 +132,9 @@ const Quadro kQuadri[] = {
        servizi().schermi->MostraModale(Schermata::FormImprevisti);
      }},
     {"aiuto", 1,
-     [](Banco&) {
+     [](Banco& banco) {
+       std::tm& ora = banco.host.wallClock;  // the longest date there is
+       ora.tm_wday = 3, ora.tm_mday = 30, ora.tm_mon = 8, ora.tm_hour = 20;
        mod_Girovia::InfoDaPartita = Vero;
        servizi().schermi->MostraModale(Schermata::FormInfo);
      }},

@@ -75,6 +75,9 @@ constexpr std::pair<Schermata, const char*> kSchermate[] = {
     {Schermata::FormBanconote, "FormBanconote"},
     {Schermata::FormBonus, "FormBonus"},
     {Schermata::FormCarte2Items, "FormCarte2Items"},
+    {Schermata::FormCitta, "FormCitta"},
+    {Schermata::FormImprevisti, "FormImprevisti"},
+    {Schermata::FormInfo, "FormInfo"},
     {Schermata::FormMessaggi, "FormMessaggi"},
     {Schermata::FormRotazioneCarta, "FormRotazioneCarta"},
     {Schermata::FormSovrapposizioni, "FormSovrapposizioni"},
@@ -114,7 +117,9 @@ std::vector<Provino> DelGioco(const std::string& cartella, int scala) {
     Dado = 8;
     Giocatore = 3 - std::max(Giocatore, 1);
     mod_Messaggi::ColoreCornice = Colore[Giocatore];
-    mod_Messaggi::IndiceCarte2 = Pos[Giocatore];
+    mod_Messaggi::IndiceCarte2 = CittaCliccata = Pos[Giocatore];
+    mod_Messaggi::IndiceImprevisto = 22;
+    InfoDaPartita = Vero;
     mod_Messaggi::Messaggio = schermata == Schermata::FormBanconote ? "Vinci 8 euro"
                               : schermata == Schermata::FormCarte2Items
                                   ? "Se sbagli restituisci 8 euro e torni a Dniepropetrovsk"

@@ -37,10 +37,12 @@ bool SiClicca(const Control& c) {
   return c.visible() && c.enabled() && c.takesMouse() && (c.OnClick || c.OnMouseDown);
 }
 
-// The columns of the news begin under the foot of their page.
+// The columns of the news and the credits of the start screen begin under the foot of their page.
 bool Sale(const Control& c) {
-  return c.form()->name() == "FormImprevisti" &&
-         (c.name() == "lblGiornale(1)" || c.name() == "lblGiornale(2)");
+  const std::string& form = c.form()->name();
+  return (form == "FormImprevisti" &&
+          (c.name() == "lblGiornale(1)" || c.name() == "lblGiornale(2)")) ||
+         (form == "Splash" && c.name().starts_with("picTitoli"));
 }
 
 bool Dentro(const Control& c, const Rect& area) {

@@ -291,6 +291,7 @@ class Registratore : public Caso {
   // --- The record
 
   void Avanti(const Form& form) {
+    if (saltaInizio_ && form.name() == "Splash") return;
     ScriviStato();
     std::string riga = "davanti " + form.name();
     if (&form != gioco_.tabellone())

@@ -17,12 +17,13 @@ FormBanconote::FormBanconote(Ambiente& ambiente)
       {.font = Verdana(14.25), .align = Align::Right, .autoSize = true, .maxWidth = 270});
   Row(Label1, "Label1", {125, 200, 154, 23},
       {.caption = "passa alla cassa", .font = Verdana(14.25), .align = Align::Right});
+  // The coins lie half over the note.
   Row(PicBanconota1, "PicBanconota1", {16, 85, 138, 73},
-      {.back = 0xFF0000, .autoSize = true, .visible = false});
+      {.autoSize = true, .visible = false, .clear = true});
   Row(PicBanconota2, "PicBanconota2", {136, 64, 100, 100},
-      {.back = 0xFF0000, .autoSize = true, .visible = false});
+      {.autoSize = true, .visible = false, .clear = true});
   Row(PicBanconota3, "PicBanconota3", {236, 64, 100, 100},
-      {.back = 0xFF0000, .autoSize = true, .visible = false});
+      {.autoSize = true, .visible = false, .clear = true});
   Row(cmdRisposta, "cmdRisposta", {293, 175, 54, 54},
       {.back = 0xC0FFC0, .hand = &a_.mani, .focusOnMove = true});
   cmdRisposta.OnClick = [this] { cmdRisposta_Click(); };

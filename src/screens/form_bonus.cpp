@@ -27,13 +27,14 @@ FormBonus::FormBonus(Ambiente& ambiente)
       {.font = Verdana(14.25), .align = Align::Right, .autoSize = true, .maxWidth = 330});
   Row(Label1, "Label1", {272, 248, 154, 23},
       {.caption = "passa alla cassa", .font = Verdana(14.25), .align = Align::Right});
+  // The coins lie half over the note, or it would cover what they are worth.
+  Row(PicBanconota.Load(4), "PicBanconota(4)", {232, 136, 140, 75},
+      {.back = 0xFF0000, .border = true, .autoSize = true});
   const platform::Rect posti[] = {
       {424, 104, 100, 100}, {324, 64, 100, 100}, {224, 48, 100, 100}, {124, 120, 100, 100}};
   for (int i = 0; i < 4; ++i)
     Row(PicBanconota.Load(i), Indexed("PicBanconota", i), posti[i],
-        {.back = 0xFF0000, .autoSize = true});
-  Row(PicBanconota.Load(4), "PicBanconota(4)", {232, 136, 140, 75},
-      {.back = 0xFF0000, .border = true, .autoSize = true});
+        {.autoSize = true, .clear = true});
   Row(cmdRisposta, "cmdRisposta", {440, 216, 54, 54}, {.back = 0xC0FFC0, .hand = &a_.mani});
   cmdRisposta.OnClick = [this] { cmdRisposta_Click(); };
   Row(Timer1, 400, false, [this] { Timer1_Timer(); });

@@ -84,8 +84,14 @@ void FormGirovia::RigheGiocatori() {
        .border = kBluScuro,
        .borderWidth = 2,
        .filled = true});
+  // Both words stand under the middle of their portraits: the first box is centred there, the
+  // second one two pixels further right.
   Row(LblClicca.Load(1), "LblClicca(1)", {332, 580, 42, 16},
-      {.caption = "clicca", .font = kClicca, .fore = kBluScuro, .visible = false});
+      {.caption = "clicca",
+       .font = kClicca,
+       .fore = kBluScuro,
+       .align = Align::Center,
+       .visible = false});
   Row(LblClicca.Load(2), "LblClicca(2)", {464, 580, 42, 16},
       {.caption = "clicca", .font = kClicca, .fore = kBluScuro, .visible = false});
   const auto freccia = a_.immagini.DiSchermata("FormGirovia.ImgFreccia");
@@ -95,7 +101,8 @@ void FormGirovia::RigheGiocatori() {
       {.picture = freccia, .visible = false});
 
   // Purses and status lines size themselves to their text, away from the portraits; the longest
-  // name in the widest letters still stays on the board.
+  // name in the widest letters still stays on the board. The second line's ground is a band of one
+  // width, which reaches behind the help button: its text does not.
   Row(lblGruzzolo.Load(1), "lblGruzzolo(1)", {216, 544, 101, 35},
       {.font = Verdana(21.75),
        .fore = kGiallo,
@@ -116,7 +123,8 @@ void FormGirovia::RigheGiocatori() {
        .back = kBluScuro,
        .transparent = false,
        .autoSize = true,
-       .maxWidth = 224});
+       .maxWidth = 224,
+       .minWidth = 239});
 
   for (int p : {1, 2}) {
     const double x = p == 1 ? 326 : 456;

@@ -8,6 +8,7 @@
 #include <deque>
 #include <functional>
 
+#include "core/mod_Girovia.h"
 #include "gioco.h"
 #include "platform/hosts/headless/headless_host.h"
 
@@ -40,14 +41,46 @@ class Banco : public Caso {
   // The next step is not taken before so many milliseconds have passed.
   void Aspetta(int ms) { aspetta_ = host.NowMicros() + ms * 1000LL; }
 
+  // From within a step: shows a screen and returns when it has closed. Each moment comes so many
+  // milliseconds after the screen, in steps of 50; after the last one it is closed, if it still
+  // stands.
+  struct Momento {
+    int ms;
+    std::function<void()> fai;
+  };
+  void Mostra(Schermata schermata, std::deque<Momento> momenti) {
+    const auto prima = host.OnIdle;
+    const std::int64_t inizio = host.NowMicros();
+    platform::Timer orologio;
+    orologio.Attach(*gioco.tabellone(), 50, true);
+    host.OnIdle = [&] {
+      if (momenti.empty()) {
+        mod_Girovia::RitornoProva = Vero;  // no turn follows
+        davanti().Unload();
+        Sveglia();
+      } else if (host.NowMicros() - inizio >= momenti.front().ms * 1000LL) {
+        const auto fai = std::move(momenti.front().fai);
+        momenti.pop_front();
+        if (fai) fai();
+      }
+    };
+    servizi().schermi->MostraModale(schermata);
+    host.OnIdle = prima;
+  }
+  void Sveglia() {
+    host.Queue({platform::EventKind::MouseLeave, 0, 0, platform::MouseButton::Left});
+  }
+
   platform::Form& davanti() { return *gioco.screen().top(); }
+  platform::Control& Trova(const std::string& nome) { return *davanti().Find(nome); }
   void Clicca(const platform::Control& controllo,
               platform::MouseButton bottone = platform::MouseButton::Left) {
-    const platform::Rect r = controllo.InForm(controllo.place());
-    const platform::Rect f = controllo.form()->PlaneRect();
-    host.Click(
-        gioco.screen().ToWindow({f.left + r.left + r.width / 2, f.top + r.top + r.height / 2}),
-        bottone);
+    host.Click(InMezzo(controllo), bottone);
+  }
+  void Sopra(const platform::Control& controllo) { Muovi(InMezzo(controllo)); }
+  void Muovi(platform::Point finestra) {
+    host.Queue({platform::EventKind::MouseMove, int(finestra.x), int(finestra.y),
+                platform::MouseButton::Left});
   }
 
   platform::HeadlessHost host;
@@ -57,6 +90,11 @@ class Banco : public Caso {
   int codice = -1;
 
  private:
+  platform::Point InMezzo(const platform::Control& controllo) {
+    const platform::Rect r = controllo.InForm(controllo.place());
+    const platform::Rect f = controllo.form()->PlaneRect();
+    return gioco.screen().ToWindow({f.left + r.left + r.width / 2, f.top + r.top + r.height / 2});
+  }
   double Rnd() override {
     if (numeri.empty()) return 0;
     const double u = numeri.front();

@@ -5,6 +5,13 @@
 #include "platform/forms/shade.h"
 
 namespace platform {
+namespace {
+
+// Letters keep as far from the bevel as the bevel is wide.
+constexpr double kCaptionInset = 4;
+
+}  // namespace
+
 void CommandButton::Apply(const Look& look) {
   picture_ = look.picture;
   back_ = look.back;
@@ -21,6 +28,12 @@ void CommandButton::SetPicture(SizedPicture picture) {
   Invalidate();
 }
 
+void CommandButton::SetCaption(std::string caption) {
+  if (caption == caption_) return;
+  caption_ = std::move(caption);
+  Invalidate();
+}
+
 void CommandButton::SetBackColor(Color color) {
   if (color == back_) return;
   back_ = color;
@@ -29,7 +42,7 @@ void CommandButton::SetBackColor(Color color) {
 
 Rect CommandButton::CaptionBox() const {
   const double top = picture_ ? std::min(double(picture_.height), place_.width) : 0;
-  return {2, top, place_.width - 4, place_.height - top - 2};
+  return {kCaptionInset, top, place_.width - 2 * kCaptionInset, place_.height - top - 2};
 }
 
 bool CommandButton::TextFits() const {

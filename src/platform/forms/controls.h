@@ -20,6 +20,7 @@ class CommandButton : public Control {
   void Apply(const Look& look);
   void SetPicture(SizedPicture picture);
   const SizedPicture& picture() const { return picture_; }
+  void SetCaption(std::string caption);
   void SetBackColor(Color color);
   Color backColor() const { return back_; }
   void Paint(Surface& surface) override { PaintButton(surface, pressed_); }
@@ -80,6 +81,7 @@ class Label : public Control {
     // from its right edge, a centred one about its middle; never wider than maxWidth (0: no bound).
     bool autoSize = false;
     double maxWidth = 0;
+    double minWidth = 0;  // of the ground of one that sizes itself; its text may end before
     bool visible = true;
   };
   void Apply(const Look& look);
@@ -116,6 +118,7 @@ class Label : public Control {
   bool autoSize_ = false;
   double maxWidth_ = 0;
   double wrapWidth_ = 0;  // of one that wraps and sizes itself
+  double minWidth_ = 0;
   double anchor_ = 0;     // x of the edge or middle that stays when the label sizes itself
 };
 
@@ -128,6 +131,7 @@ class PictureBox : public Control {
     bool autoSize = false;  // takes the size of its picture, border added
     bool visible = true;
     bool sprite = false;  // the picture's transparency is cut, not blended
+    bool clear = false;   // no ground and no surface: beside its picture shows what lies under it
     SizedPicture picture = {};
   };
   void Apply(const Look& look);
@@ -163,6 +167,7 @@ class PictureBox : public Control {
   bool border_ = false;
   bool autoSize_ = false;
   bool sprite_ = false;
+  bool clear_ = false;
   SizedPicture picture_;
 };
 

@@ -12,6 +12,7 @@ void Label::Apply(const Look& look) {
   transparent_ = look.transparent;
   autoSize_ = look.autoSize;
   maxWidth_ = look.maxWidth;
+  minWidth_ = look.minWidth;
   visible_ = look.visible;
   SetAnchor();
   wrapWidth_ = place_.width;
@@ -99,6 +100,7 @@ void Label::Layout() {
   // The height is that of the font asked for, so that the line stays where it was.
   const double lines = caption_.empty() ? 1 : size.height / LineHeight(style_.font);
   Rect place = place_;
+  width = std::max(width, minWidth_);
   place.width = width;
   place.height = std::max(1.0, lines) * LineHeight(font_);
   place.left = style_.align == Align::Left    ? anchor_

@@ -9,6 +9,7 @@ void PictureBox::Apply(const Look& look) {
   border_ = look.border;
   autoSize_ = look.autoSize;
   sprite_ = look.sprite;
+  clear_ = look.clear;
   visible_ = look.visible;
   if (look.picture) SetPicture(look.picture);
 }
@@ -31,7 +32,9 @@ void PictureBox::Print(std::string_view line) {
 }
 
 void PictureBox::Restore() {
-  if (picture_ && picture_.width == innerWidth() && picture_.height == innerHeight()) {
+  if (clear_) {
+    surface_ = {};
+  } else if (picture_ && picture_.width == innerWidth() && picture_.height == innerHeight()) {
     surface_ = picture_.picture->Fit(picture_.width, picture_.height, scale(),
                                      sprite_ ? colors::kWhite : back_, sprite_);
   } else {
@@ -75,7 +78,11 @@ void PictureBox::Paint(Surface& target) {
   if (border_) {
     target.FillRect({0, 0, place_.width, place_.height}, colors::kBlack);
   }
-  if (surface_.width() == innerWidth() && surface_.height() == innerHeight()) {
+  if (clear_) {
+    if (picture_)
+      picture_.picture->Draw(
+          target, {double(inset()), double(inset()), double(innerWidth()), double(innerHeight())});
+  } else if (surface_.width() == innerWidth() && surface_.height() == innerHeight()) {
     target.BitBlt(inset(), inset(), innerWidth(), innerHeight(), surface_, 0, 0, RasterOp::SrcCopy);
   } else {
     target.FillRect({double(inset()), double(inset()), double(innerWidth()), double(innerHeight())},

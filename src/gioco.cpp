@@ -17,6 +17,9 @@
 #include "screens/form_splash.h"
 #include "screens/segnaposto.h"
 #include "trials/form_carte2_items.h"
+#include "trials/form_carte4_items.h"
+#include "trials/form_prova_capitali.h"
+#include "trials/form_prova_citta.h"
 #include "trials/form_prova_ordinamento.h"
 #include "trials/form_prova_puzzle.h"
 
@@ -107,6 +110,12 @@ std::unique_ptr<platform::Form> Gioco::Crea(Schermata schermata) {
       return std::make_unique<FormInfo>(ambiente_);
     case Schermata::FormCarte2Items:
       return std::make_unique<FormCarte2Items>(ambiente_);
+    case Schermata::FormCarte4Items:
+      return std::make_unique<FormCarte4Items>(ambiente_);
+    case Schermata::FormProvaCapitali:
+      return std::make_unique<FormProvaCapitali>(ambiente_);
+    case Schermata::FormProvaCitta:
+      return std::make_unique<FormProvaCitta>(ambiente_);
     case Schermata::FormProvaOrdinamento:
       return std::make_unique<FormProvaOrdinamento>(ambiente_);
     case Schermata::FormProvaPuzzle:
@@ -116,7 +125,7 @@ std::unique_ptr<platform::Form> Gioco::Crea(Schermata schermata) {
     case Schermata::Splash:
       return std::make_unique<Splash>(ambiente_);
     default:
-      return std::make_unique<Segnaposto>(ambiente_, schermata);
+      return std::make_unique<Segnaposto>(ambiente_);
   }
 }
 

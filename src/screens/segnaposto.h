@@ -1,5 +1,5 @@
-// Stands in for a screen that is not drawn yet: asks with FormMessaggi for the outcome that the
-// screen would bring, and closes with that screen's flags.
+// Stands in for the award ceremony, which is not drawn yet: names the winner with FormMessaggi, and
+// ends the game.
 #pragma once
 
 #include "screens/form_messaggi.h"
@@ -8,18 +8,13 @@ namespace girovia {
 
 class Segnaposto : public FormMessaggi {
  public:
-  Segnaposto(Ambiente& ambiente, Schermata per) : FormMessaggi(ambiente), per_(per) {}
+  using FormMessaggi::FormMessaggi;
 
   void Form_Load() override;
   void Form_Activate() override;
 
  protected:
   void cmdRisposta_Click(int Index) override;
-
- private:
-  std::string Domanda();
-
-  Schermata per_;
 };
 
 }  // namespace girovia

@@ -42,7 +42,7 @@ void Cartella::Alleggerisci() {
   const fs::path stella = fs::path(PROGRAMMA) / PercorsoFile(*TrovaVoce(Tipo::Bitmap, 104));
   for (const VoceCatalogo& voce : Catalogo()) {
     const bool grande = voce.tipo == Tipo::Jpeg || voce.nome.starts_with("FormRotazioneCarta") ||
-                        voce.nome.starts_with("Dadi.");
+                        voce.nome.starts_with("FormProva") || voce.nome.starts_with("Dadi.");
     if (!grande) continue;
     Togli(PercorsoFile(voce));
     fs::create_symlink(stella, radice_ / PercorsoFile(voce));

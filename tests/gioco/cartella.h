@@ -18,8 +18,8 @@ class Cartella {
   void Togli(const std::string& file);
   void Riscrivi(const std::string& file, const std::string& contenuto);
 
-  // Small pictures in the place of the photographs, the dice and the turning card, which take most
-  // of the time of a game that has no clock to wait for.
+  // Small pictures in the place of the photographs, the trials' maps, the dice and the turning
+  // card, which take most of the time of a game that has no clock to wait for.
   void Alleggerisci();
 
  private:

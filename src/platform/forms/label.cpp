@@ -96,11 +96,10 @@ void Label::Layout() {
   while (limit > 0 && drawnWidth() > limit && style_.font.points > kSmallest)
     style_.font.points -= 0.25;
   const TextSize size = MeasureText(caption_, style_, limit);
-  const double width = limit > 0 ? std::min(size.width, limit) : size.width;
+  const double width = std::max(limit > 0 ? std::min(size.width, limit) : size.width, minWidth_);
   // The height is that of the font asked for, so that the line stays where it was.
   const double lines = caption_.empty() ? 1 : size.height / LineHeight(style_.font);
   Rect place = place_;
-  width = std::max(width, minWidth_);
   place.width = width;
   place.height = std::max(1.0, lines) * LineHeight(font_);
   place.left = style_.align == Align::Left    ? anchor_

@@ -31,6 +31,7 @@ struct Quadro {
   int scala;
   std::function<void(Banco&)> apri;  // returns when the screen has closed
   bool nelSuono = false;             // as it looks in its last wait
+  int attese = 22;  // how often the game waits before: the logo slides, pulses beat
 };
 
 // As a test may be called.
@@ -151,6 +152,40 @@ const Quadro kQuadri[] = {
        mod_Girovia::CittaCliccata = mod_Girovia::Pos[2] = 67;
        servizi().schermi->MostraModale(Schermata::FormCitta);
      }},
+    {"foto", 2,
+     [](Banco& banco) {
+       Turno(1, 9);
+       mod_Messaggi::IndiceCarte4 = 16;
+       mod_Messaggi::Messaggio = "Se sbagli restituisci 9 euro e torni a Copenaghen";
+       servizi().comandi->SpegniTimer();
+       const auto carta = banco.gioco.Crea(Schermata::FormCarte4Items);
+       carta->Load();
+       banco.Clicca(*carta->Find("cmdRisposta(1)"));
+       carta->ShowModal();
+     },
+     false, 16},
+    {"citta", 1,
+     [](Banco&) {
+       Turno(2, 9);
+       mod_Messaggi::IndiceProvaCitta = 71;
+       mod_Messaggi::Messaggio = "Se sbagli restituisci 9 euro e torni a Copenaghen";
+       servizi().comandi->SpegniTimer();
+       servizi().schermi->MostraModale(Schermata::FormProvaCitta);
+     },
+     false, 50},
+    {"capitali", 2,
+     [](Banco& banco) {
+       Turno(1, 12);
+       mod_Messaggi::IndiceProvaCapitali = 29;
+       mod_Messaggi::Messaggio = "Se sbagli restituisci 12 e torni ad Amburgo";
+       servizi().comandi->SpegniTimer();
+       const auto mappa = banco.gioco.Crea(Schermata::FormProvaCapitali);
+       mappa->Load();
+       banco.Muovi({800, 1000});
+       banco.Sopra(*mappa->Find("cmdcitta(71)"));
+       mappa->ShowModal();
+     },
+     false, 97},
     {"avviso", 1,
      [](Banco& banco) {
        platform::MsgBox(banco.gioco.screen(), "GIROVIA GRANDETAPPA", "Vuoi uscire dal gioco?",
@@ -221,15 +256,15 @@ TEST_P(Quadri, LooksAsItDid) {
   // Large pictures are not looked at here: they change when a city is drawn anew.
   Cartella cartella;
   cartella.Alleggerisci();
-  for (const char* nome :
-       {"FormGirovia.bmp", "FormImprevisti.png", "FormProvaOrdinamento.jpg"}) {
+  for (const char* nome : {"FormGirovia.bmp", "FormImprevisti.png", "FormProvaCitta.jpg",
+                           "FormProvaOrdinamento.jpg"}) {
     const std::string tinta = cartella.percorso() + "/risorse/schermate/" + nome;
     std::filesystem::remove(tinta);
     platform::SavePng(Surface(8, 6, 1, 0xC0A080), tinta);
   }
 
   Banco banco(quadro.scala, cartella.percorso());
-  std::deque<std::function<void()>> passi(22);  // the logo slides, the pulses beat
+  std::deque<std::function<void()>> passi(std::size_t(quadro.attese));
   for (auto& passo : passi) passo = [] {};
   passi.push_front([&] { quadro.apri(banco); });
   Surface foto;

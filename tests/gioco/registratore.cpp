@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/mod_Girovia.h"
+#include "core/mod_Messaggi.h"
 #include "gioco.h"
 #include "platform/hosts/headless/headless_host.h"
 
@@ -149,7 +150,7 @@ class Registratore : public Caso {
   double Rnd() override {
     if (automatico_) return Uniforme();
     if (attesa_ >= 0 && Davanti() == "Splash") return Uniforme();  // the portraits shimmer
-    if (attesa_ >= 0) {  // the game went on by itself
+    if (attesa_ >= 0) {                                            // the game went on by itself
       attesa_ = -1;
       istruzioni_.pop_front();
     }
@@ -232,6 +233,7 @@ class Registratore : public Caso {
     if (host_.NowMicros() > kDurataMassima) throw ErroreCopione("the game does not come to an end");
     Form& form = *gioco_.screen().top();
     if (form.Find("picTassello") && SpostaACaso(form)) return;
+    if (form.name().starts_with("FormProvaC")) return CliccaSuMappa(form);
     for (const char* nome : {"cmdRitratto", "cmdRisposta", "cmdExit", "cmdOK", "cmdYes"}) {
       std::vector<Control*> adatti;
       for (Control* c : form.controls())
@@ -259,6 +261,21 @@ class Registratore : public Caso {
     Scrivi("sposta " + std::to_string(da) + " " + cella(da)->tag());
     CliccaInMezzo(form, *cella(da));
     return true;
+  }
+
+  // One time out of three he knows the city, and one time he does not look for it.
+  void CliccaSuMappa(const Form& form) {
+    using namespace mod_Messaggi;
+    const int giusta = form.name() == "FormProvaCitta" ? IndiceProvaCitta : IndiceProvaCapitali;
+    const double come = Uniforme();
+    Control* scelto = form.Find("cmdcitta(" + std::to_string(giusta) + ")");
+    if (come > 1.0 / 3) scelto = form.Find("cmdExit");
+    while (come > 2.0 / 3 && !scelto->name().starts_with("cmdcitta")) {
+      Control* caso = form.Find("cmdcitta(" + std::to_string(int(Uniforme() * 100)) + ")");
+      if (Raggiunge(form, *caso)) scelto = caso;
+    }
+    Scrivi("clic " + form.name() + "." + scelto->name());
+    CliccaInMezzo(form, *scelto);
   }
 
   // Somewhere on the screen, and half the time a press that is not let go.

@@ -13,9 +13,9 @@
 #include "screens/form_imprevisti.h"
 #include "screens/form_info.h"
 #include "screens/form_messaggi.h"
+#include "screens/form_premiazione.h"
 #include "screens/form_sovrapposizioni.h"
 #include "screens/form_splash.h"
-#include "screens/segnaposto.h"
 #include "trials/form_carte2_items.h"
 #include "trials/form_carte4_items.h"
 #include "trials/form_prova_capitali.h"
@@ -41,6 +41,7 @@ Gioco::Gioco(platform::Host& host, const Opzioni& opzioni)
 }
 
 Gioco::~Gioco() {
+  premiazione_.reset();
   tabellone_.reset();
   sfondo_.reset();
   servizi() = Servizi();
@@ -58,6 +59,7 @@ void Gioco::ApriTabellone() {
   tabellone_ = std::make_unique<FormGirovia>(ambiente_);
   servizi().tabellone = tabellone_.get();
   servizi().comandi = tabellone_.get();
+  servizi().cerimonia = &tabellone_->cerimonia();
   tabellone_->Load();
 }
 
@@ -120,13 +122,20 @@ std::unique_ptr<platform::Form> Gioco::Crea(Schermata schermata) {
       return std::make_unique<FormProvaOrdinamento>(ambiente_);
     case Schermata::FormProvaPuzzle:
       return std::make_unique<FormProvaPuzzle>(ambiente_);
+    case Schermata::FormPremiazione:
+      return std::make_unique<FormPremiazione>(ambiente_);
     case Schermata::FormRotazioneCarta:
       return std::make_unique<FormRotazioneCarta>(ambiente_);
     case Schermata::Splash:
       return std::make_unique<Splash>(ambiente_);
-    default:
-      return std::make_unique<Segnaposto>(ambiente_);
   }
+  return nullptr;
+}
+
+void Gioco::MostraModale(Schermata schermata) {
+  if (schermata != Schermata::FormPremiazione) return Crea(schermata)->ShowModal();
+  if (!premiazione_) premiazione_ = Crea(schermata);
+  premiazione_->ShowModal();
 }
 
 void Gioco::MostraNonModale(Schermata schermata) {

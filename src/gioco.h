@@ -41,7 +41,7 @@ class Gioco : private Schermi, private Suoni, private Attese, private Caso {
   FormGirovia* tabellone() { return tabellone_.get(); }
 
  private:
-  void MostraModale(Schermata schermata) override { Crea(schermata)->ShowModal(); }
+  void MostraModale(Schermata schermata) override;
   void MostraNonModale(Schermata) override;
   void ApriTabellone() override;
   void PreparaSovrapposizioni(std::string_view label2, std::string_view label3) override {
@@ -62,7 +62,8 @@ class Gioco : private Schermi, private Suoni, private Attese, private Caso {
   Ambiente ambiente_;
   std::unique_ptr<FormSfondo> sfondo_;
   std::unique_ptr<FormGirovia> tabellone_;
-  std::string label2_, label3_;  // for the next overlap dialog
+  std::unique_ptr<platform::Form> premiazione_;  // stays loaded between its shows
+  std::string label2_, label3_;                  // for the next overlap dialog
 };
 
 }  // namespace girovia

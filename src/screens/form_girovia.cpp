@@ -35,11 +35,14 @@ double LarghezzaNome(const Casella& c) {
 }  // namespace
 
 FormGirovia::FormGirovia(Ambiente& ambiente)
-    : Form(ambiente.screen, "FormGirovia", 800, 600, 0x808080), a_(ambiente) {
+    : Form(ambiente.screen, "FormGirovia", 800, 600, 0x808080),
+      a_(ambiente),
+      cerimonia_(ambiente, *this) {
   a_.dadi = this;
   RigheCaselle();
   RigheGiocatori();
   RigheComandi();
+  cerimonia_.Righe();
 }
 
 // Route, squares and city names. The lines come first: they lie under everything.

@@ -5,6 +5,7 @@
 
 #include "comune/ambiente.h"
 #include "core/interfacce.h"
+#include "screens/form_girovia_cerimonia.h"
 
 namespace girovia {
 
@@ -51,7 +52,11 @@ class FormGirovia : public platform::Form,
   platform::PictureBox& PicDado(int n) override { return n == 1 ? PicDado1 : PicDado2; }
   void MostraDadi(int n, bool visibile) override;
 
+  Cerimonia& cerimonia() { return cerimonia_; }
+
  private:
+  friend class CerimoniaSulTabellone;
+
   void RigheCaselle();
   void RigheGiocatori();
   void RigheComandi();
@@ -78,6 +83,7 @@ class FormGirovia : public platform::Form,
   platform::PictureBox PicDado1, PicDado2, PicDadoOmbra1, PicDadoOmbra2;
   platform::Timer TimerCitta, TimerPrimo[3], TimerSorpresa;
   platform::SizedPicture stella_;
+  CerimoniaSulTabellone cerimonia_;
 };
 
 }  // namespace girovia

@@ -78,10 +78,8 @@ void FormGirovia::ScriviGruzzolo(int p, Euro valore) {
   lblGruzzolo(p).Refresh();
 }
 
-void FormGirovia::SvuotaGruzzolo(int p) {
-  lblGruzzolo(p).SetCaption("");
-  screen().Flush();
-}
+// Goes with the route under the veil, in one repaint.
+void FormGirovia::SvuotaGruzzolo(int p) { lblGruzzolo(p).SetCaption(""); }
 
 void FormGirovia::ColoraGruzzoli(int colore1, int colore2) {
   lblGruzzolo(1).SetForeColor(platform::Color(colore1));

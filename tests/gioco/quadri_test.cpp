@@ -31,7 +31,7 @@ struct Quadro {
   int scala;
   std::function<void(Banco&)> apri;  // returns when the screen has closed
   bool nelSuono = false;             // as it looks in its last wait
-  int attese = 22;  // how often the game waits before: the logo slides, pulses beat
+  int attese = 22;  // how often the game waits before: the logo slides, pulses beat; 0: at once
 };
 
 // As a test may be called.
@@ -208,6 +208,30 @@ const Quadro kQuadri[] = {
        tabellone.ScambiaAnnuncio();  // in step with the second portrait
        tabellone.AvviaLampeggio();
      }},
+    {"premiazione", 2,
+     [](Banco&) {
+       Turno(2, 3);
+       mod_Girovia::Nome[1] = "Massimiliano...";
+       servizi().schermi->MostraModale(Schermata::FormPremiazione);
+     }},
+    {"cerimonia", 2,
+     [](Banco&) {
+       Turno(2, 3);
+       Cerimonia& cerimonia = *servizi().cerimonia;
+       servizi().comandi->NascondiAiuto();
+       servizi().comandi->NascondiAnnuncio();
+       cerimonia.SgombraTabellone();
+       cerimonia.NascondiPercorso();
+       cerimonia.TingiTabellone();
+       cerimonia.MostraCorona();
+       cerimonia.MostraVincitore(mod_Girovia::Ritratto[2]);
+       cerimonia.MostraTrofeo();
+       cerimonia.MostraCongratulazioni();
+       cerimonia.MostraPremioSpeciale(9);
+       cerimonia.MostraBanconota500(2);
+       cerimonia.MostraBanconota50(2);
+     },
+     0},
 };
 
 // The form in front and what shows around its shape, at half its logical size.

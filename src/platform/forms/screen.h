@@ -51,7 +51,8 @@ class Screen {
   // The composed plane under `form`, as a surface of the form's size, as if the form and what lies
   // over it were not there.
   Surface CaptureUnder(const Form& form);
-  // The composed plane in the form's rectangle, everything included.
+  // The composed plane in the form's rectangle, everything included. What has changed is in it, but
+  // is not shown yet.
   Surface Capture(const Form& form);
 
   // --- Forms, bottom to top

@@ -114,7 +114,7 @@ void Screen::Flush() {
 }
 
 Surface Screen::Capture(const Form& form) {
-  Flush();
+  for (const DeviceRect& r : invalid_) Compose(r);
   const DeviceRect at = form.DeviceBounds();
   Surface out(form.width(), form.height(), scale_, colors::kBlack);
   out.BitBlt(0, 0, form.width(), form.height(), plane_, at.left / double(scale_),

@@ -1,9 +1,11 @@
-// The program: the game in its window, or, where there is no display, a game that plays itself.
+// The program: the game in its window, or a game that plays itself, which it does where there is no
+// display or where it is told to.
 #include <cstdio>
 #include <filesystem>
 #include <string>
+#include <string_view>
 
-#include "dimostrazione.h"
+#include "dimostrazione/dimostrazione.h"
 #include "gioco.h"
 #include "platform/hosts/desktop/sdl_host.h"
 
@@ -19,7 +21,7 @@ std::string CartellaDelProgramma(const char* argv0) {
 
 }  // namespace
 
-int main(int, char** argv) {
+int main(int argc, char** argv) {
   const std::string cartella = CartellaDelProgramma(argv[0]);
   std::string perche;
   const auto host = platform::OpenDesktop(
@@ -28,6 +30,12 @@ int main(int, char** argv) {
     std::printf("Non c'è uno schermo su cui giocare (%s): la partita si gioca da sola.\n",
                 perche.c_str());
     return girovia::Dimostrazione(cartella, "galleria");
+  }
+  if (argc > 1 && argv[1] == std::string_view("--dimostrazione")) {
+    using girovia::FineDimostrazione;
+    const auto fine = girovia::Dimostra(*host, cartella);
+    // Whoever has touched it wants to play.
+    if (fine != FineDimostrazione::Toccata) return fine == FineDimostrazione::Guasta ? 1 : 0;
   }
   girovia::Gioco gioco(*host, {.cartella = cartella});
   return gioco.Gioca();

@@ -15,6 +15,20 @@ namespace {
 
 constexpr platform::Color kFondoIstruzioni = 0xDCF3FF;
 
+// Made smaller if the text would be wider than there is room.
+platform::Font Adatta(platform::Font carattere, std::string_view testo, double larghezza) {
+  while (platform::TextWidth(carattere, testo) > larghezza) carattere.points -= 0.25;
+  return carattere;
+}
+
+// On the base line that it would have in the full size.
+void Stampa(platform::PictureBox& riquadro, double x, double y, std::string_view riga,
+            const platform::Font& pieno, const platform::Font& adatto) {
+  riquadro.SetPrintFont(adatto);
+  riquadro.SetPrintAt(x, y + std::round(platform::Ascent(pieno) - platform::Ascent(adatto)));
+  riquadro.Print(riga);
+}
+
 }  // namespace
 
 FormProvaOrdinamento::FormProvaOrdinamento(Ambiente& ambiente)
@@ -45,16 +59,17 @@ void FormProvaOrdinamento::ComponiFoto(int cella, int citta) {
   PicCaricamento.surface().BitBlt(0, 0, kLarghezza, kAltezza,
                                   foto.picture->Fit(kLarghezza, kAltezza, screen().scale()), 0, 0,
                                   RasterOp::SrcCopy);
-  platform::Font carattere = Verdana(18);
-  carattere.underline = true;
-  PicCaricamento.SetPrintFont(carattere);
-  const std::string scritta = ScrittaTassello(NomeCasella(citta));
+  // The button covers a corner of the last cell: the longest name ends before it.
+  constexpr double kSpazio = 204;
+  platform::Font pieno = Verdana(18);
+  pieno.underline = true;
+  const std::string nome(NomeCasella(citta));
+  const platform::Font adatto = Adatta(pieno, ' ' + nome, kSpazio);
+  const platform::Color colore = cella == kCellaRiferimento ? 0x0000FF : 0x00FFFF;
   PicCaricamento.SetForeColor(0x000000);
-  PicCaricamento.SetPrintAt(3, 130);
-  PicCaricamento.Print(scritta);
-  PicCaricamento.SetForeColor(cella == kCellaRiferimento ? 0x0000FF : 0x00FFFF);
-  PicCaricamento.SetPrintAt(1, 128);
-  PicCaricamento.Print(scritta);
+  Stampa(PicCaricamento, 3, 130, ScrittaTassello(nome), pieno, adatto);
+  PicCaricamento.SetForeColor(colore);
+  Stampa(PicCaricamento, 1, 128, ScrittaTassello(nome), pieno, adatto);
   MettiNellaGriglia(cella, PicCaricamento);
 }
 
@@ -72,13 +87,8 @@ void FormProvaOrdinamento::ScriviIstruzioni(int riferimento) {
   double y = 1;
   for (const std::string& riga :
        IstruzioniOrdinamento(NomeCasella(riferimento), mod_Messaggi::Messaggio)) {
-    // A line that is too long is set smaller, on the same base line.
-    platform::Font carattere = Verdana(10);
-    while (platform::TextWidth(carattere, riga) > kLarghezza - kMargine) carattere.points -= 0.25;
-    PicCaricamento.SetPrintFont(carattere);
-    PicCaricamento.SetPrintAt(
-        0, y + std::round(platform::Ascent(Verdana(10)) - platform::Ascent(carattere)));
-    PicCaricamento.Print(riga);
+    Stampa(PicCaricamento, 0, y, riga, Verdana(10),
+           Adatta(Verdana(10), riga, kLarghezza - kMargine));
     y += platform::LineHeight(Verdana(10));
   }
   PicCaricamento.SetVisible(true);

@@ -106,7 +106,8 @@ class Scimmia : public Caso {
     std::vector<const platform::Control*> adatti;
     for (const platform::Control* c : form.controls()) {
       const int rarita = c->name().starts_with("cmdcitta") ? 200 : c->name() == "cmdExit" ? 40 : 1;
-      if (c->ShownOnScreen() && c->OnClick && A(rarita) == 0) adatti.push_back(c);
+      if (c->ShownOnScreen() && (c->OnClick || c->OnMouseDown) && A(rarita) == 0)
+        adatti.push_back(c);
     }
     if (adatti.empty()) return;
     const platform::Control* scelto = adatti[std::size_t(A(int(adatti.size())))];

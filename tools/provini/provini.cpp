@@ -79,6 +79,8 @@ constexpr std::pair<Schermata, const char*> kSchermate[] = {
     {Schermata::FormImprevisti, "FormImprevisti"},
     {Schermata::FormInfo, "FormInfo"},
     {Schermata::FormMessaggi, "FormMessaggi"},
+    {Schermata::FormProvaOrdinamento, "FormProvaOrdinamento"},
+    {Schermata::FormProvaPuzzle, "FormProvaPuzzle"},
     {Schermata::FormRotazioneCarta, "FormRotazioneCarta"},
     {Schermata::FormSovrapposizioni, "FormSovrapposizioni"},
 };
@@ -120,12 +122,15 @@ std::vector<Provino> DelGioco(const std::string& cartella, int scala) {
     mod_Messaggi::IndiceCarte2 = CittaCliccata = Pos[Giocatore];
     mod_Messaggi::IndiceImprevisto = 22;
     InfoDaPartita = Vero;
-    mod_Messaggi::Messaggio = schermata == Schermata::FormBanconote ? "Vinci 8 euro"
-                              : schermata == Schermata::FormCarte2Items
-                                  ? "Se sbagli restituisci 8 euro e torni a Dniepropetrovsk"
-                              : schermata == Schermata::FormSovrapposizioni
-                                  ? "Saragozza è già occupata.\r\nCosa vuoi fare?"
-                                  : "Vuoi uscire dal gioco?";
+    mod_Messaggi::Messaggio =
+        schermata == Schermata::FormBanconote ? "Vinci 8 euro"
+        : schermata == Schermata::FormCarte2Items
+            ? "Se sbagli restituisci 8 euro e torni a Dniepropetrovsk"
+        : schermata == Schermata::FormProvaOrdinamento || schermata == Schermata::FormProvaPuzzle
+            ? "Se non ci riesci restituisci 8 euro e torni a Dniepropetrovsk"
+        : schermata == Schermata::FormSovrapposizioni
+            ? "Saragozza è già occupata.\r\nCosa vuoi fare?"
+            : "Vuoi uscire dal gioco?";
     scattata = false;
     quando = host.NowMicros() + kSguardo;
     RitornoProva = Vero;  // so that no turn follows, here and at the end

@@ -134,21 +134,22 @@ TEST(Picture, ComesBackFromItsFile) {
     for (int x = 0; x < s.deviceWidth(); ++x) ASSERT_EQ(back.row(y)[x], s.row(y)[x]);
 }
 
-// A disc with a notch on a transparent ground, at twice its logical size of 30 by 30.
+// A disc with a notch, at twice its logical size of 30 by 30: a picture on a transparent ground, or
+// its mask, black on white.
 std::shared_ptr<const Picture> Shape(std::uint32_t color) {
   std::vector<std::uint32_t> argb;
   for (int y = 0; y < 60; ++y)
     for (int x = 0; x < 60; ++x)
       argb.push_back(std::hypot(x - 29.5, y - 27.0) < 26 && !(x > 35 && std::abs(y - 20) < 7)
                          ? 0xFF000000 | (color ? color + static_cast<std::uint32_t>(x) : 0)
-                         : 0);
+                         : (color ? 0 : 0xFFFFFFFF));
   return Picture::FromPixels(60, 60, std::move(argb));
 }
 
 TEST(Picture, AMaskAndItsSpriteKeepOneOutlineAtEveryScale) {
   const auto mask = Shape(0);
   const auto sprite = Shape(0x20C000);
-  ASSERT_TRUE(mask && sprite && mask->hasTransparency());
+  ASSERT_TRUE(mask && sprite && !mask->hasTransparency());
   for (int k = 1; k <= 4; ++k) {
     const Surface black = mask->Fit(30, 30, k, colors::kWhite, true);
     const Surface image = sprite->Fit(30, 30, k, colors::kWhite, true);

@@ -93,11 +93,12 @@ std::shared_ptr<const Picture> Picture::FromPixels(int width, int height,
       argb.size() != static_cast<std::size_t>(width) * static_cast<std::size_t>(height))
     return nullptr;
   auto picture = std::make_shared<Picture>();
-  std::uint32_t all = 0xFF000000;
-  for (const std::uint32_t p : argb) all &= p;
   picture->width_ = width;
   picture->height_ = height;
-  picture->transparent_ = all != 0xFF000000;
+  picture->transparent_ =
+      std::any_of(argb.begin(), argb.end(), [](std::uint32_t p) { return p < 0xFF000000; });
+  picture->mask_ = std::all_of(argb.begin(), argb.end(),
+                               [](std::uint32_t p) { return p == 0xFF000000 || p == 0xFFFFFFFF; });
   picture->argb_ = std::move(argb);
   return picture;
 }
@@ -107,10 +108,19 @@ Surface Picture::Fit(int width, int height, int scale, Color back, bool sprite) 
   const int across = width * scale;
   const int down = height * scale;
   if (across == 0 || argb_.empty()) return Surface(width, height, scale, back);
+  // A mask is resampled as what it is, the transparency of its picture, so that both come to the
+  // same halves.
+  const bool asMask = sprite && mask_;
+  const bool cut = asMask || transparent_;
+  std::vector<std::uint32_t> cover;
+  if (asMask) {
+    cover.reserve(argb_.size());
+    for (const std::uint32_t p : argb_) cover.push_back(p == 0xFF000000 ? p : 0);
+  }
   std::vector<std::uint32_t> pixels =
-      Resample({argb_.data(), width_, width_, height_}, across, down, transparent_);
+      Resample({asMask ? cover.data() : argb_.data(), width_, width_, height_}, across, down, cut);
   if (pixels.empty()) return Surface(width, height, scale, back);
-  if (transparent_) {
+  if (cut) {
     const std::uint32_t ground = SwapRedBlue(back);
     for (std::uint32_t& p : pixels) {
       const std::uint32_t alpha = p >> 24;

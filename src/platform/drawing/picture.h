@@ -30,8 +30,8 @@ class Picture {
   // The picture as a surface of the given logical size and scale, well resampled. Transparent
   // pixels become `back`. With `sprite`, transparency is cut at one half after resampling instead
   // of being blended: inside the outline full colour, outside exactly `back`, as the pairs of
-  // picture and mask need it. A picture and a mask that were cut from one drawing at one threshold
-  // keep one outline at every scale.
+  // picture and mask need it. A mask, which is all black and white, is cut likewise: the two keep
+  // one outline at every scale.
   Surface Fit(int width, int height, int scale, Color back = colors::kWhite,
               bool sprite = false) const;
   // Draws the picture, transparency blended, over what is there.
@@ -41,6 +41,7 @@ class Picture {
   int width_ = 0;
   int height_ = 0;
   bool transparent_ = false;
+  bool mask_ = false;  // opaque, all black and white
   std::vector<std::uint32_t> argb_;
   // As last drawn in another size: repaints come often, and mostly for a small part.
   mutable std::vector<std::uint32_t> drawn_;

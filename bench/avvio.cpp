@@ -10,6 +10,7 @@
 #include "gioco.h"
 #include "misure.h"
 #include "platform/hosts/desktop/sdl_host.h"
+#include "platform/hosts/forwarding_host.h"
 
 namespace {
 
@@ -24,30 +25,14 @@ struct Fase {
 constexpr Fase kFasi[] = {{"credits-rising", 2, 8}, {"start-at-rest", 30, 40}, {"board", 56, 76}};
 constexpr double kInizia = 42;  // the click that leaves the start screen
 
-class HostMisurato : public platform::Host {
+class HostMisurato : public platform::ForwardingHost {
  public:
-  HostMisurato(std::unique_ptr<platform::Host> vero, Clock::time_point start)
-      : vero_(std::move(vero)), start_(start) {}
-
-  platform::PixelSize WindowSize() override { return vero_->WindowSize(); }
-  platform::PixelSize LargestWindow() override { return vero_->LargestWindow(); }
-  std::int64_t NowMicros() override { return vero_->NowMicros(); }
-  void SetPointer(const platform::Pointer& p, double scale) override {
-    vero_->SetPointer(p, scale);
-  }
-  void ClipPointer(const std::optional<platform::DeviceRect>& r) override { vero_->ClipPointer(r); }
-  void PlaySound(const std::shared_ptr<const platform::Wave>& w) override { vero_->PlaySound(w); }
-
-  std::tm LocalTime() override { return vero_->LocalTime(); }
-  bool PollEvent(platform::Event& event) override { return vero_->PollEvent(event); }
-  std::int64_t FrameMicros() override { return vero_->FrameMicros(); }
-  void TakeText(const std::optional<platform::DeviceRect>& r) override { vero_->TakeText(r); }
-  std::string Clipboard() override { return vero_->Clipboard(); }
-  void SetClipboard(const std::string& text) override { vero_->SetClipboard(text); }
+  HostMisurato(platform::Host& vero, Clock::time_point start)
+      : ForwardingHost(vero), start_(start) {}
 
   void Show(const platform::Surface& plane,
             const std::vector<platform::DeviceRect>& changed) override {
-    vero_->Show(plane, changed);
+    host_.Show(plane, changed);
     // The first picture that covers the window is the start screen's.
     if (!mostrato_ && changed[0].width() >= plane.deviceWidth() - plane.scale()) {
       const std::chrono::duration<double, std::milli> ms = Clock::now() - start_;
@@ -61,7 +46,7 @@ class HostMisurato : public platform::Host {
     const double ora = mostrato_ ? double(NowMicros() - inizio_) / 1e6 : 0;
     if (ora >= kInizia && cliccati_ < 3) {
       // The button in the lower right corner of the forms' room.
-      const platform::PixelSize finestra = vero_->WindowSize();
+      const platform::PixelSize finestra = host_.WindowSize();
       const double k = std::min(finestra.width / 800.0, finestra.height / 600.0);
       constexpr platform::EventKind kClic[] = {platform::EventKind::MouseMove,
                                                platform::EventKind::MouseDown,
@@ -91,11 +76,10 @@ class HostMisurato : public platform::Host {
       event.kind = platform::EventKind::Quit;
       return true;
     }
-    return vero_->WaitEvent(event, deadline);
+    return host_.WaitEvent(event, deadline);
   }
 
  private:
-  std::unique_ptr<platform::Host> vero_;
   Clock::time_point start_;
   bool mostrato_ = false, misura_ = false;
   std::int64_t inizio_ = 0;
@@ -110,12 +94,12 @@ int main(int argc, char** argv) {
   const auto start = Clock::now();
   const std::string folder = argc > 1 ? argv[1] : ".";
   std::string why;
-  auto host = platform::OpenDesktop({.title = "bench", .iconPath = ""}, why);
+  const auto host = platform::OpenDesktop({.title = "bench", .iconPath = ""}, why);
   if (!host) {
     std::fprintf(stderr, "%s\n", why.c_str());
     return 1;
   }
-  HostMisurato misurato(std::move(host), start);
+  HostMisurato misurato(*host, start);
   girovia::Gioco gioco(misurato, {.cartella = folder});
   return gioco.Gioca();
 }

@@ -39,7 +39,7 @@ void DisegnaFreccia(Surface& su, Point punta) {
 
 }  // namespace
 
-Mano::Mano(platform::Host& host, bool visibile) : host_(host), visibile_(visibile) {
+Mano::Mano(platform::Host& host, bool visibile) : ForwardingHost(host), visibile_(visibile) {
   const platform::PixelSize finestra = host_.WindowSize();
   qui_ = {finestra.width / 2.0, finestra.height / 2.0};
   if (visibile_) host_.SetPointer(Invisibile(), 1);

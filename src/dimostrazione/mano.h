@@ -5,7 +5,7 @@
 
 #include <deque>
 
-#include "platform/hosts/host.h"
+#include "platform/hosts/forwarding_host.h"
 
 namespace girovia {
 
@@ -26,7 +26,7 @@ class Attore {
   virtual std::optional<Gesto> Prossimo() = 0;
 };
 
-class Mano : public platform::Host {
+class Mano : public platform::ForwardingHost {
  public:
   // A visible hand is drawn over the picture in the place of the real pointer.
   Mano(platform::Host& host, bool visibile);
@@ -36,23 +36,16 @@ class Mano : public platform::Host {
   bool toccata() const { return toccata_; }  // by a person
   bool chiusa() const { return chiusa_; }    // the window was
 
-  platform::PixelSize WindowSize() override { return host_.WindowSize(); }
-  platform::PixelSize LargestWindow() override { return host_.LargestWindow(); }
-  std::int64_t NowMicros() override { return host_.NowMicros(); }
   bool WaitEvent(platform::Event& event, std::int64_t deadline) override;
   bool PollEvent(platform::Event& event) override;
   bool WaitBlocked(platform::Event& event, std::int64_t deadline) override;
   void Show(const platform::Surface& plane,
             const std::vector<platform::DeviceRect>& changed) override;
-  std::int64_t FrameMicros() override { return host_.FrameMicros(); }
   void SetPointer(const platform::Pointer& pointer, double) override;
   void ClipPointer(const std::optional<platform::DeviceRect>&) override {}
   void TakeText(const std::optional<platform::DeviceRect>&) override {}
   std::string Clipboard() override { return {}; }
   void SetClipboard(const std::string&) override {}
-  void PlaySound(const std::shared_ptr<const platform::Wave>& wave) override {
-    host_.PlaySound(wave);
-  }
 
  private:
   struct Mossa {
@@ -69,7 +62,6 @@ class Mano : public platform::Host {
   void Disegna();
   platform::DeviceRect PostoMano() const;
 
-  platform::Host& host_;
   Attore* attore_ = nullptr;
   bool visibile_, toccata_ = false, chiusa_ = false, premuta_ = false;
   std::optional<platform::Point> mouse_;  // where the real one was first seen

@@ -181,11 +181,11 @@ const Quadro kQuadri[] = {
        servizi().comandi->SpegniTimer();
        const auto mappa = banco.gioco.Crea(Schermata::FormProvaCapitali);
        mappa->Load();
-       banco.Muovi({800, 1000});
+       banco.host.Click({800, 400});  // on the open map
        banco.Sopra(*mappa->Find("cmdcitta(71)"));
        mappa->ShowModal();
      },
-     false, 97},
+     false, 98},
     {"avviso", 1,
      [](Banco& banco) {
        platform::MsgBox(banco.gioco.screen(), "GIROVIA GRANDETAPPA", "Vuoi uscire dal gioco?",

@@ -32,9 +32,8 @@ FormProvaPuzzle::FormProvaPuzzle(Ambiente& ambiente)
 
 void FormProvaPuzzle::Form_Load() {
   Annuncia();
-  const platform::Color colore = NumeroColore(Colore[Giocatore]);
   surface().Line(32, 537, 474, 537, {42, 0x404040});
-  surface().Line(30, 535, 472, 535, {40, colore});
+  surface().Line(30, 535, 472, 535, {40, NumeroColore(Colore[Giocatore])});
   DisegnaCornice(*this, kSmussoPuzzle);
   cmdRisposta.SetPicture(a_.immagini.LoadResPicture(Ritratto[Giocatore]));
   const TestiPuzzle testi =
@@ -42,7 +41,6 @@ void FormProvaPuzzle::Form_Load() {
   LblInfo.SetCaption(testi.info);
   LblTitolo.SetCaption(testi.titolo);
   const auto figura = cLoadResPicture(a_.immagini).LoadResPicture(testi.figura, "CUSTOM");
-  picOriginale.SetBackColor(colore);
   picOriginale.SetPicture(figura);
   ImgRidotta.SetPicture(figura);
   Distribuisci(NumeroColore(mod_Messaggi::ColoreCornice));

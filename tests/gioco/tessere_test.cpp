@@ -103,7 +103,7 @@ TEST_P(Tessere, ArePutInOrderByPointer) {
     if (!puzzle && c == 4) continue;
     const double x = 20 + 9 * c, y = 100 - 7 * c;
     passi.push_back([&, c, x, y] {
-      EXPECT_EQ(t.davanti().Find("cmdRisposta")->text(), "ci rinuncio");
+      EXPECT_FALSE(t.gioco.tabellone()->Find("cmdExit")->visible());
       int da = c;
       while (t.Tassello(da) != c) ++da;
       solleva = da;
@@ -172,6 +172,7 @@ TEST(Ordinamento, ATileIsNeverOutrunAndOnlyAFreshClickDropsIt) {
              EXPECT_EQ(t.Riquadro("picTassello").place().left, 98);  // 195 - 97.5
              EXPECT_EQ(t.Riquadro("picTassello").place().top, 76);   // 151 - 75.5
              EXPECT_EQ(*t.host.pointerArea(), (platform::DeviceRect{195, 151, 780, 590}));
+             t.davanti().Find("cmdRisposta")->Click();  // as a key would
              t.Manda(EventKind::MouseUp, {2000, 2000});
              t.Muovi({-500, 2000});
            },
@@ -286,7 +287,15 @@ TEST(Ordinamento, MarksGrowAroundTheRing) {
              for (int n = 1; n <= 123; ++n) anello += segno(n);
              EXPECT_EQ(anello, std::string(28, 'g') + "---" + std::string(29, 'g') + "--" +
                                    std::string(27, 'g') + "------" + std::string(27, 'r') + "-");
-           }});
+             // In the solved grid the photographs hide what their tiles hid.
+             t.host.OnBlocked = [&] {
+               if (t.Riquadro(Nome2(0)).visible()) return;
+               EXPECT_EQ(segno(2), 'g');
+               EXPECT_EQ(segno(12), '-');
+             };
+             t.Sposta(7, 8, 50, 50);
+           },
+           [&] { EXPECT_EQ(Risposta, 1); }});
 }
 
 // Square 67 has a photograph one pixel narrower than the others, square 72 one four pixels lower.
@@ -325,6 +334,55 @@ TEST(Puzzle, ASmallerPhotographLeavesAStripOfThePlayersColour) {
              },
              [&] { EXPECT_EQ(t.Tassello(0), caso.ultimo); }});
   }
+}
+
+TEST(Puzzle, TheBarShrinksAndBlinksRed) {
+  Tavolo t;
+  const auto barra = [&t] { return t.davanti().Find("Linea"); };
+  const auto colore = [&t] { return t.Riquadro("Linea").backColor(); };
+  t.Passi({[&] {
+             t.Apri(kPuzzle, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11});
+           },
+           [&] { t.Aspetta(64'500); },
+           [&] {
+             EXPECT_EQ(barra()->place(), (platform::Rect{153, 534, 201, 7}));
+             EXPECT_TRUE(barra()->visible());
+             EXPECT_EQ(colore(), platform::colors::kNavy);
+             t.Aspetta(500);
+           },
+           [&] {
+             EXPECT_FALSE(barra()->visible());
+             t.Aspetta(500);
+           },
+           [&] {
+             EXPECT_TRUE(barra()->visible());
+             EXPECT_EQ(colore(), platform::colors::kRed);
+           }});
+}
+
+TEST(Puzzle, TheFormIsDraggedByItsFreeSurfaceAndTheConfinementFollows) {
+  Tavolo t;
+  t.Passi({[&] {
+             t.Apri(kPuzzle, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11});
+           },
+           [&] {
+             t.Manda(EventKind::MouseDown, {400, 580});
+             t.Muovi({300, 560});
+             t.Manda(EventKind::MouseUp, {300, 560});
+             t.Muovi({300, 100});
+           },
+           [&] {
+             EXPECT_EQ(t.davanti().PlaneRect().left, 46);  // 146.5 in the middle
+             EXPECT_EQ(t.davanti().PlaneRect().top, -5);
+             t.Clic(t.Punto(Nome2(6), 30, 40));
+             t.Muovi({799, 599});
+           },
+           [&] {
+             // From the outer corner of the box on, as far as box and tile differ.
+             EXPECT_EQ(*t.host.pointerArea(), (platform::DeviceRect{88, 47, 451, 290}));
+             EXPECT_EQ(t.Riquadro("picTassello").place().left, 361);
+             EXPECT_EQ(t.Riquadro("picTassello").place().top, 241);
+           }});
 }
 
 TEST(Puzzle, SolvedItShrinksAroundPictureAndTitle) {

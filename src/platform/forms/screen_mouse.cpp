@@ -41,6 +41,7 @@ MouseArgs Screen::ArgsFor(const Control& control, const Form& form, Point at,
 bool Screen::CanClick(const Control& control) const {
   const Form& form = *control.form();
   if (!control.ShownOnScreen() || !TakesInput(form)) return false;
+  if (Captured() && captured_ != &control) return false;
   const Rect r = control.InForm(control.place());
   const Rect f = form.PlaneRect();
   const Point middle{r.left + r.width / 2, r.top + r.height / 2};

@@ -119,7 +119,7 @@ class SdlHost : public Host {
 
   bool WaitEvent(Event& event, std::int64_t deadline) override {
     for (;;) {
-      if (voice_.idleAt() <= NowMicros()) voice_.Close();
+      if (voice_.idleAt() <= NowMicros()) voice_.Rest();
       const std::int64_t until = std::min(deadline, voice_.idleAt());
       SDL_Event sdl;
       int got = 0;

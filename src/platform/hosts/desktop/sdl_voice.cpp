@@ -5,12 +5,13 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace platform {
 namespace {
 
 // Effects often follow each other: the device stays open for a while after each.
-constexpr std::int64_t kKeepOpenMicros = 2'000'000;
+constexpr std::int64_t kKeepOpenMicros = 3'000'000;
 
 // The sound library of the system tells on stderr, in a dozen lines, that there is no device; the
 // game takes no notice of that, and neither shall who plays.
@@ -53,7 +54,7 @@ bool SdlVoice::Open(int rate, int channels) {
   if (device_ && rate == rate_ && channels == channels_) return true;
   Close();
   const QuietStderr quiet;
-  if (!SDL_WasInit(SDL_INIT_AUDIO) && SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return false;
+  if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return false;
   SDL_AudioSpec want{};
   want.freq = rate;
   want.format = AUDIO_S16SYS;
@@ -64,15 +65,27 @@ bool SdlVoice::Open(int rate, int channels) {
   device_ = SDL_OpenAudioDevice(nullptr, 0, &want, nullptr, 0);
   rate_ = rate;
   channels_ = channels;
-  if (!device_) return false;
+  if (!device_) {
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    return false;
+  }
   SDL_PauseAudioDevice(device_, 0);
   return true;
 }
 
+void SdlVoice::Rest() {
+  idleAtMicros_ = INT64_MAX;
+  if (!device_) return;
+  closing_ = std::thread([device = std::exchange(device_, 0)] {
+    SDL_CloseAudioDevice(device);
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+  });
+}
+
 void SdlVoice::Close() {
-  if (device_) SDL_CloseAudioDevice(device_);
-  device_ = 0;
-  wave_.reset();
+  Rest();
+  if (closing_.joinable()) closing_.join();
+  wave_.reset();  // until here the device may have asked for it
 }
 
 void SdlVoice::Play(const std::shared_ptr<const Wave>& wave, std::int64_t nowMicros) {

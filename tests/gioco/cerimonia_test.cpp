@@ -16,6 +16,7 @@ using platform::Control;
 using platform::Rect;
 
 constexpr Color kBlu = 0xFF0000;
+constexpr Color kNessuno = 0xFF00FF;  // of no picture
 
 struct Fine {
   int euro1, euro2, pos1, pos2;
@@ -67,15 +68,14 @@ class Festa : public Banco {
   // does not belong to it, that is as `sotto` has it. Where the menu lies neither counts.
   std::pair<double, double> Mostrata(int bitmap, int x, int y, const platform::Surface& sotto) {
     const auto pic = immagini_.LoadResPicture(bitmap);
-    const platform::Surface figura =
-        pic.picture->Fit(pic.width, pic.height, 1, platform::colors::kWhite, true);
+    const platform::Surface figura = pic.picture->Fit(pic.width, pic.height, 1, kNessuno, true);
     const Rect menu = davanti().PlaneRect();
     double tutti[2] = {}, giusti[2] = {};
     for (int riga = 0; riga < pic.height; ++riga)
       for (int colonna = 0; colonna < pic.width; ++colonna) {
         if (menu.contains(x + colonna, y + riga) || y + riga < 0 || x + colonna >= 800) continue;
         const Color suo = figura.PixelAt(colonna, riga);
-        const bool fuori = suo == platform::colors::kWhite;
+        const bool fuori = suo == kNessuno;
         const Color atteso = fuori ? sotto.PixelAt(x + colonna, y + riga) : suo;
         ++tutti[fuori];
         giusti[fuori] += host.planeShown().PixelAt(x + colonna, y + riga) == atteso;
@@ -193,8 +193,8 @@ TEST_F(LaCerimonia, PutsEachPrizeAtTheSideOfItsPlayer) {
     platform::Surface sotto;
     const auto mostrata = [&](int bitmap, int x, int y) {
       const auto [figura, intorno] = festa.Mostrata(bitmap, x, y, sotto);
-      EXPECT_GT(figura, 0.95) << bitmap;
-      EXPECT_GT(intorno, 0.95) << bitmap;
+      EXPECT_EQ(figura, 1) << bitmap;
+      EXPECT_EQ(intorno, 1) << bitmap;
     };
     festa.Gioca({[&] {
                    sotto = festa.host.planeShown();
@@ -233,8 +233,8 @@ TEST_F(LaCerimonia, TheSpecialPrizeTenTimes) {
   for (const int n : {13, 5, 0, 1, 2, 3, 12, 4, 7})
     passi.push_back([&, n] {
       const auto [figura, intorno] = festa.Mostrata(kPrimoPremio + 2 * n, 0, 200, sotto);
-      EXPECT_GT(figura, 0.95) << n;
-      EXPECT_GT(intorno, 0.95) << n;
+      EXPECT_EQ(figura, 1) << n;
+      EXPECT_EQ(intorno, 1) << n;
       EXPECT_EQ(festa.Offerta(), "123456");
       EXPECT_EQ(festa.davanti().Find("lblPremiazione(4)")->text(), "Scegli un altro premio");
       festa.Sceglie(4);

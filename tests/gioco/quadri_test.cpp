@@ -231,7 +231,7 @@ const Quadro kQuadri[] = {
        cerimonia.MostraBanconota500(2);
        cerimonia.MostraBanconota50(2);
      },
-     0},
+     false, 0},
 };
 
 // The form in front and what shows around its shape, at half its logical size.

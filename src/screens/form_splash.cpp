@@ -74,6 +74,11 @@ void Splash::RigheGiocatore(int p) {
   Row(g.Frm, nomi.Frm, {540, nomi.top, 252, 89},
       {.caption = "Nome:", .font = Verdana(9.75), .back = colore});
   Row(g.Txt, nomi.Txt, {82, 16, 161, 26}, {.text = nomi.nome, .font = Verdana(12, true)}, &g.Frm);
+  g.Txt.OnGotFocus = [&g] { g.Txt.SelectAll(); };
+  // A child clicks on the name that is offered and types his own.
+  g.Txt.OnMouseDown = [&g, &nomi](const platform::MouseArgs&) {
+    if (g.Txt.text() == nomi.nome) g.Txt.SelectAll();
+  };
   Row(g.cmdRitratto, nomi.cmdRitratto, {16, 24, kLatoRitratto, kLatoRitratto},
       {.back = colore, .border = true}, &g.Frm);
   Row(g.Lblcolore, nomi.Lblcolore, {80, 72, 172, 13},

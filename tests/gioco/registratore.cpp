@@ -62,7 +62,17 @@ double Numero(const Istruzione& dove, const std::string& testo) {
   return numero;
 }
 
+// Keys by name; a name is written with blanks between its words.
+constexpr std::pair<const char*, platform::Key> kTasti[] = {
+    {"Tab", platform::Key::Tab},      {"Invio", platform::Key::Enter},
+    {"Esc", platform::Key::Escape},   {"Spazio", platform::Key::Space},
+    {"Destra", platform::Key::Right}, {"Canc", platform::Key::Delete}};
+
 void LeggiNumeri(Istruzione& i) {
+  if (i.verbo == "scrivi" || i.verbo == "tasto") {
+    if (i.argomenti.empty()) Errore(i, "nothing to type");
+    return;
+  }
   const bool posa = i.verbo == "posto" || i.verbo == "gruzzolo";
   if (posa || i.verbo == "clic" || i.verbo == "attendi" || i.verbo == "seme") {
     if (i.argomenti.size() != (posa ? 2 : 1)) Errore(i, "not so many words");
@@ -130,7 +140,7 @@ class Registratore : public Caso {
   Registratore(const std::string& copione, const std::string& cartella, bool impaziente)
       : istruzioni_(Leggi(copione)), gioco_(host_, {cartella, 1, this}) {
     for (const Istruzione& i : istruzioni_)
-      if (i.testo.starts_with("clic Splash.")) saltaInizio_ = false;
+      if (i.testo.starts_with("clic Splash.") || i.verbo == "scrivi") saltaInizio_ = false;
     host_.OnIdle = [this] { Inattivo(); };
     if (impaziente) host_.OnBlocked = [this] { NonAspetta(); };
     gioco_.screen().OnSound = [this](const std::string& nome) { Scrivi("suono " + nome); };
@@ -191,6 +201,7 @@ class Registratore : public Caso {
       Posa(i);
       return Inattivo();
     }
+    if (i.verbo == "scrivi" || i.verbo == "tasto") return Batti(i);
     if (i.verbo == "seme") {
       generatore_.seed(unsigned(Numero(i, i.argomenti[0])));
       automatico_ = true;
@@ -209,6 +220,14 @@ class Registratore : public Caso {
       mod_Girovia::Gruzzolo[p] = Euro::Interi(n);
       servizi().tabellone->ScriviGruzzolo(p, Euro::Interi(n));
     }
+  }
+
+  void Batti(const Istruzione& i) {
+    Scrivi(i.testo);
+    if (i.verbo == "scrivi") return host_.Type(i.testo.substr(i.testo.find(' ') + 1));
+    for (const auto& [nome, tasto] : kTasti)
+      if (i.argomenti[0] == nome) return host_.Press(tasto);
+    Errore(i, "unknown key");
   }
 
   // --- Clicks

@@ -15,6 +15,7 @@
 //   tira 1 3 4                       player 1 throws and takes the money
 //   passa                            ...draws the true-or-false card and does not know
 //   sposta 3 7                       lifts the tile on cell 3 and drops it on cell 7
+//   scrivi Zoè di Rodi               types; tasto Tab, Invio, Esc, Spazio, Destra or Canc
 //   posto 1 96; gruzzolo 1 40        puts player 1 there, with so much money
 //   seme 7                           from here to the end the numbers are those of a generator, and
 //                                    the clicks those of a player who answers by chance

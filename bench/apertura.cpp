@@ -96,6 +96,7 @@ int main(int argc, char** argv) {
   platform::HeadlessHost host(finestra);
   Gioco gioco(host, {.cartella = cartella});
   gioco.Apri();
+  gioco.SaltaInizio();
   gioco.screen().Wait(1);
   std::printf("%dx%d, scale %d\n", finestra.width, finestra.height, gioco.screen().scale());
   for (int s = 0; s < kNumeroSchermate; ++s) {

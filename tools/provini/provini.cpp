@@ -1,23 +1,27 @@
 // Contact sheets, to look at everything at once.
 //
 //   provini immagini CARTELLA SCALA USCITA.png     all pictures of the catalogue
-//   provini schermate CARTELLA SCALA USCITA.png    all screens, as they open in a game
+//   provini schermate CARTELLA SCALA USCITA.png    all screens, as a game passes them
 //   provini inizio CARTELLA SCALA USCITA.png       the board before the first throw
 //   provini partita CARTELLA SCALA USCITA.png      the board in the middle of a game
 //
 // CARTELLA is the program's folder, where risorse/, Suoni/ and font/ lie.
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "content/catalogo.h"
 #include "core/mod_Girovia.h"
-#include "core/mod_Messaggi.h"
 #include "core/stato.h"
+#include "dimostrazione/dimostrazione.h"
 #include "gioco.h"
 #include "platform/hosts/headless/headless_host.h"
 
@@ -70,81 +74,24 @@ std::vector<Provino> DelCatalogo(const std::string& cartella) {
   return provini;
 }
 
-constexpr std::pair<Schermata, const char*> kSchermate[] = {
-    {Schermata::Dadi, "Dadi"},
-    {Schermata::FormBanconote, "FormBanconote"},
-    {Schermata::FormBonus, "FormBonus"},
-    {Schermata::FormCarte2Items, "FormCarte2Items"},
-    {Schermata::FormCitta, "FormCitta"},
-    {Schermata::FormImprevisti, "FormImprevisti"},
-    {Schermata::FormInfo, "FormInfo"},
-    {Schermata::FormMessaggi, "FormMessaggi"},
-    {Schermata::FormProvaOrdinamento, "FormProvaOrdinamento"},
-    {Schermata::FormProvaPuzzle, "FormProvaPuzzle"},
-    {Schermata::FormRotazioneCarta, "FormRotazioneCarta"},
-    {Schermata::FormSovrapposizioni, "FormSovrapposizioni"},
-};
-
-// Opens each screen over the board as the rules would, and looks at it after a moment.
-std::vector<Provino> DelGioco(const std::string& cartella, int scala) {
-  constexpr std::int64_t kSguardo = 1'500'000;
-  platform::HeadlessHost host({800 * scala, 600 * scala});
-  Gioco gioco(host, {.cartella = cartella});
+// Every screen that the demonstration passes, as it leaves them behind.
+std::vector<Provino> DellaDimostrazione(const std::string& cartella) {
+  namespace fs = std::filesystem;
+  const fs::path galleria = fs::temp_directory_path() / ("provini-" + std::to_string(getpid()));
   std::vector<Provino> provini;
-  std::string nome = "FormGirovia";
-  std::int64_t quando = 0;
-  bool scattata = false;
-  const auto guarda = [&] {
-    if (scattata || host.NowMicros() < quando) return;
-    scattata = true;
-    const auto foto = std::make_shared<Surface>(host.Shot());
-    provini.push_back(
-        {nome, 800, 600, [foto](Surface& foglio, const Rect& r) {
-           foglio.StretchBlt(r, *foto, {0, 0, double(foto->width()), double(foto->height())});
-         }});
-  };
-  host.OnBlocked = guarda;
-  gioco.Apri();
-  gioco.SaltaInizio();
-  gioco.screen().Wait(1);
-  guarda();
-
-  using namespace mod_Girovia;
-  Pos[1] = 3;
-  Pos[2] = 28;
-  servizi().schermi->PreparaSovrapposizioni("Pago 5 euro e vado a Dniepropetrovsk",
-                                            "Non pago niente e torno a S.Pietroburgo");
-  for (const auto& [schermata, suo] : kSchermate) {
-    nome = suo;
-    Dado = 8;
-    Giocatore = 3 - std::max(Giocatore, 1);
-    mod_Messaggi::ColoreCornice = Colore[Giocatore];
-    mod_Messaggi::IndiceCarte2 = CittaCliccata = Pos[Giocatore];
-    mod_Messaggi::IndiceImprevisto = 22;
-    InfoDaPartita = Vero;
-    mod_Messaggi::Messaggio =
-        schermata == Schermata::FormBanconote ? "Vinci 8 euro"
-        : schermata == Schermata::FormCarte2Items
-            ? "Se sbagli restituisci 8 euro e torni a Dniepropetrovsk"
-        : schermata == Schermata::FormProvaOrdinamento || schermata == Schermata::FormProvaPuzzle
-            ? "Se non ci riesci restituisci 8 euro e torni a Dniepropetrovsk"
-        : schermata == Schermata::FormSovrapposizioni
-            ? "Saragozza è già occupata.\r\nCosa vuoi fare?"
-            : "Vuoi uscire dal gioco?";
-    scattata = false;
-    quando = host.NowMicros() + kSguardo;
-    RitornoProva = Vero;  // so that no turn follows, here and at the end
-    const auto form = gioco.Crea(schermata);
-    host.OnIdle = [&] {
-      guarda();
-      if (!scattata) return;
-      RitornoProva = Vero;
-      form->Unload();
-      // Wakes the loop, which then finds the form gone.
-      host.Queue({platform::EventKind::MouseLeave, 0, 0, platform::MouseButton::Left});
-    };
-    form->ShowModal();
+  if (Dimostrazione(cartella, galleria.string()) == 0) {
+    std::set<fs::path> file;
+    for (const auto& voce : fs::directory_iterator(galleria)) file.insert(voce.path());
+    for (const fs::path& png : file) {
+      int errore = 0;
+      const auto foto = platform::Picture::Load(png.string(), errore);
+      if (foto)
+        provini.push_back({png.stem().string(), 800, 600,
+                           [foto](Surface& foglio, const Rect& r) { foto->Draw(foglio, r); }});
+    }
   }
+  std::error_code nessuno;
+  fs::remove_all(galleria, nessuno);
   return provini;
 }
 
@@ -196,7 +143,7 @@ int main(int argc, char** argv) {
     const std::string cartella = argv[2];
     platform::SetFontFolder(cartella + "/font");
     if (che == "immagini") foglio = Foglio(DelCatalogo(cartella), scala, 160, 12);
-    if (che == "schermate") foglio = Foglio(DelGioco(cartella, scala), scala, 400, 4);
+    if (che == "schermate") foglio = Foglio(DellaDimostrazione(cartella), scala, 400, 4);
     if (che == "inizio" || che == "partita")
       foglio = IlTabellone(cartella, scala, che == "partita");
   }

@@ -66,7 +66,8 @@ bool Repeats(Key key) { return key != Key::Enter && key != Key::Space && key != 
 
 class SdlHost : public Host {
  public:
-  SdlHost(SDL_Window* window, const DesktopOptions& options) : window_(window) {
+  SdlHost(SDL_Window* window, const DesktopOptions& options)
+      : window_(window), growsFull_(options.fullScreen) {
     SDL_StopTextInput();
     int error = 0;
     if (const auto icon = Picture::Load(options.iconPath, error)) {
@@ -118,6 +119,9 @@ class SdlHost : public Host {
   }
 
   bool WaitEvent(Event& event, std::int64_t deadline) override {
+    // Not before the first picture: SDL waits a tenth of a second for a window manager to agree.
+    if (shown_ && std::exchange(growsFull_, false))
+      SDL_SetWindowFullscreen(window_, SDL_WINDOW_FULLSCREEN_DESKTOP);
     for (;;) {
       if (voice_.idleAt() <= NowMicros()) voice_.Rest();
       const std::int64_t until = std::min(deadline, voice_.idleAt());
@@ -288,6 +292,7 @@ class SdlHost : public Host {
   void ToggleFullScreen() {
     if (SDL_GetWindowFlags(window_) & SDL_WINDOW_FULLSCREEN_DESKTOP) {
       SDL_SetWindowFullscreen(window_, 0);
+      SDL_SetWindowBordered(window_, SDL_TRUE);
       SDL_SetWindowSize(window_, kWindowWidth, kWindowHeight);
       SDL_SetWindowPosition(window_, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
       return;
@@ -358,6 +363,7 @@ class SdlHost : public Host {
   std::map<std::pair<int, const Picture*>, Cursor> cursors_;
   SdlVoice voice_;
   bool shown_ = false;
+  bool growsFull_;  // once it has shown something
   std::shared_ptr<const Wave> firstSound_;
 };
 
@@ -389,7 +395,7 @@ std::unique_ptr<Host> OpenDesktop(const DesktopOptions& options, std::string& wh
     return nullptr;
   }
   Uint32 flags = SDL_WINDOW_RESIZABLE;
-  if (options.fullScreen) flags |= SDL_WINDOW_FULLSCREEN_DESKTOP;
+  if (options.fullScreen) flags |= SDL_WINDOW_BORDERLESS;
   // Made as large as it is to be: where no window manager runs nobody else would do it.
   SDL_Rect place{SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, kWindowWidth, kWindowHeight};
   if (options.fullScreen) SDL_GetDisplayBounds(0, &place);

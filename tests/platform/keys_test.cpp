@@ -247,6 +247,19 @@ TEST(Keys, HandlersMayTakeAwayWhatIsFocused) {
   }
 }
 
+TEST(Keys, AHandlerMaySendTheFocusElsewhere) {
+  Program p;
+  Panel panel(p.screen, p.log);
+  panel.Show();
+  panel.a.SetFocus();
+  panel.a.OnLostFocus = [&] { panel.last.SetFocus(); };
+  p.log.clear();
+  p.script = {[&] { p.ClickOn(panel, 30, 213); }};  // the text box
+  p.Run();
+  EXPECT_TRUE(panel.last.focused());
+  EXPECT_EQ(p.log, (Log{"-box", "+last", "box click"}));
+}
+
 TEST(Keys, AnswerTheSystemsBox) {
   Program p;
   PlainForm board(p.screen, "board", 800, 600, p.log);

@@ -213,6 +213,14 @@ TEST_F(Writing, ByMouse) {
               [&] {
                 EXPECT_FALSE(sheet.box.focused());
                 EXPECT_FALSE(p.host.textArea());
+                // The press that brings the focus back may be dragged, though.
+                event(EventKind::MouseDown, 3);
+                event(EventKind::MouseMove, 7);
+                event(EventKind::MouseUp, 7);
+              },
+              [&] {
+                EXPECT_EQ(sheet.box.selected(), "a Ma");
+                p.Nudge();
               }};
   p.Run();
 }
@@ -230,6 +238,8 @@ TEST_F(Writing, LooksAsItIs) {
   const Rect at = sheet.PlaneRect();
   const auto seen = [&] { return Seen(p.host, at, sheet.box.place()); };
   sheet.box.SetText("");
+  std::int64_t shows = 0;
+  Timer later;
   p.script = {[&] {
                 EXPECT_EQ(seen(), std::set<Color>{colors::kWhite});
                 sheet.box.SetFocus();
@@ -254,10 +264,19 @@ TEST_F(Writing, LooksAsItIs) {
               [&] {
                 EXPECT_TRUE(seen().contains(colors::kNavy)) << "selection";
                 sheet.button.SetFocus();
+                p.Nudge();
               },
               [&] {
                 EXPECT_FALSE(seen().contains(colors::kNavy)) << "hidden with the focus";
                 EXPECT_EQ(sheet.box.selected(), "Primo");
+                shows = p.host.shows();
+                later.Attach(sheet, 2000, true);
+                p.Nudge();
+              },
+              [] {},
+              [&] {
+                EXPECT_GE(p.host.NowMicros(), 2'000'000) << "nothing else is due";
+                EXPECT_EQ(p.host.shows(), shows);
               }};
   p.Run();
 }

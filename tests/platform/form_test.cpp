@@ -164,6 +164,7 @@ TEST(Forms, AClickCountsOnlyWhereItBeganAndOnlyLeft) {
     event(EventKind::MouseUp, 20, 20, MouseButton::Right);
     event(EventKind::MouseDown, 20, 20);
     board.button.SetVisible(false);  // gone under the pressed mouse
+    EXPECT_FALSE(board.button.pressed());
     event(EventKind::MouseUp, 20, 20);
   }};
   p.Run();

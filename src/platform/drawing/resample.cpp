@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/drawing/enlarge.h"
 #include "platform/drawing/pages.h"
 #include "platform/drawing/reduce.h"
 
@@ -23,6 +24,8 @@ std::vector<std::uint32_t> Resample(const PixelView& source, int width, int heig
   } else if (!alpha && width <= source.width && height <= source.height) {
     Reducer(source.width, source.height, width, height)
         .Run(source.pixels, source.stride, result.data(), width, {0, 0, width, height});
+  } else if (width >= source.width && height >= source.height) {
+    Enlarge(source, width, height, alpha, result.data());
   } else {
     // On a growing axis the trapezoid would show steps; on a shrinking one it is the exact average.
     const auto filter = [](int from, int to) {

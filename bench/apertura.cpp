@@ -1,7 +1,7 @@
-// For every form the time from its opening to its first complete picture on a display of 1920 by
-// 1080, or of the size told, and how long the turning card is at work.
+// For every form, or for one, the time from its opening to its first complete picture on a display
+// of 1920 by 1080, or of the size told; what an animation costs; and what a form leaves behind.
 //
-//   apertura CARTELLA [LARGHEZZA ALTEZZA]
+//   apertura CARTELLA [LARGHEZZA ALTEZZA [FORM]]
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -106,8 +106,10 @@ int main(int argc, char** argv) {
     for (int n = 0; n < kAperture; ++n) {
       Prepara(n);
       nome = gioco.Crea(Schermata(s))->name();
+      if (argc > 4 && nome != argv[4]) break;
       aperture.push_back(Apri(host, gioco, Schermata(s)));
     }
+    if (aperture.empty()) continue;
     std::sort(aperture.begin(), aperture.end(),
               [](const Apertura& a, const Apertura& b) { return a.primo < b.primo; });
     const Apertura& media = aperture[kAperture / 2];

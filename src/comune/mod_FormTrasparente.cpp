@@ -5,8 +5,7 @@
 namespace girovia {
 
 void CatturaSchermo(platform::Form& form) {
-  form.surface().BitBlt(0, 0, form.width(), form.height(), form.screen().CaptureUnder(form), 0, 0,
-                        platform::RasterOp::SrcCopy);
+  form.SetSurface(form.screen().CaptureUnder(form));
 }
 
 }  // namespace girovia

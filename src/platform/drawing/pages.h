@@ -12,4 +12,8 @@ namespace platform {
 // first picture of the program is tens of megabytes of such pages.
 void ReservePixels(std::vector<std::uint32_t>& pixels, std::size_t count);
 
+// Gives what large pictures have left behind back to the system, where that keeps it for the next
+// ones; a few megabytes may stay.
+void ReturnPages();
+
 }  // namespace platform

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/drawing/pages.h"
 #include "platform/forms/screen.h"
 
 namespace platform {
@@ -16,6 +17,9 @@ Form::~Form() {
   // Controls are members of the derived form and are gone by now; nothing may look for them.
   controls_.clear();
   screen_.Forget(this);
+  surface_ = {};
+  scratch_ = {};
+  ReturnPages();
 }
 
 void Form::Place() {
@@ -106,6 +110,11 @@ void Form::Unload() {
 Surface& Form::surface() {
   if (surface_.width() != width_ || surface_.height() != height_) Cls();
   return surface_;
+}
+
+void Form::SetSurface(Surface surface) {
+  surface_ = std::move(surface);
+  Invalidate();
 }
 
 void Form::SetPicture(const SizedPicture& picture) {

@@ -40,9 +40,10 @@ class Form {
   void SetPicture(const SizedPicture& picture);  // at the top left corner, opaque
   void SetBackColor(Color color);
   Color backColor() const { return back_; }
-  void Cls();          // back to the background: colour and picture
-  Surface& surface();  // persistent; what is drawn shows at the next repaint
-  void Refresh();      // repaints all of the form at once
+  void Cls();                        // back to the background: colour and picture
+  Surface& surface();                // persistent; what is drawn shows at the next repaint
+  void SetSurface(Surface surface);  // in its place, of the form's size
+  void Refresh();                    // repaints all of the form at once
   void Invalidate();
   void Invalidate(const Rect& r);
   void Resize(int width, int height);  // keeps its left and top

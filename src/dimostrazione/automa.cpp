@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "content/quiz.h"
-#include "content/testi.h"
 #include "core/mod_Girovia.h"
 #include "core/mod_Messaggi.h"
 
@@ -27,13 +26,6 @@ constexpr int kPremi[] = {4, 1, 2, 5, 3, 4, 4, kUscita, 4, kUscita};
 
 std::string Indice(const std::string& nome, int i) { return nome + "(" + std::to_string(i) + ")"; }
 
-std::int64_t TempoDiLettura(const Form& form) {
-  std::size_t lettere = 0;
-  for (const Control* c : form.controls())
-    if (c->ShownOnScreen()) lettere += c->text().size();
-  return std::min(kLettura, kSguardo + std::int64_t(lettere) * kPerLettera);
-}
-
 }  // namespace
 
 Automa::Automa(Gioco& gioco) : gioco_(gioco) {
@@ -43,14 +35,20 @@ Automa::Automa(Gioco& gioco) : gioco_(gioco) {
   };
 }
 
+// The names on the board need not be read, and no text twice.
+std::int64_t Automa::TempoDiLettura(const Form& form) {
+  std::size_t lettere = 0;
+  if (&form != gioco_.tabellone())
+    for (const Control* c : form.controls())
+      if (c->ShownOnScreen() && letti_.emplace(c->text()).second) lettere += c->text().size();
+  return std::min(kLettura, kSguardo + std::int64_t(lettere) * kPerLettera);
+}
+
 int Automa::Scena() {
   const Form* form = gioco_.screen().top();
   if (form == davanti_) return scena_;
   davanti_ = form;
-  const std::int64_t adesso = gioco_.screen().host().NowMicros();
-  guardaFinoA_ = adesso + (form == gioco_.tabellone() ? kSguardo
-                           : form                     ? TempoDiLettura(*form)
-                                                      : 0);
+  guardaFinoA_ = gioco_.screen().host().NowMicros() + (form ? TempoDiLettura(*form) : 0);
   return ++scena_;
 }
 
@@ -183,10 +181,8 @@ Automa::Mossa Automa::SuTessere() {
   return prima && prima->visible() ? Mossa(mezzo(*prima)) : Mossa();
 }
 
-Automa::Mossa Automa::SuDomanda() {
-  const bool uscita = gioco_.screen().top()->Find("LblMessaggio")->text() == LoadResString(500);
-  return Clicca("cmdRisposta", uscita ? 2 : 1);
-}
+// Nobody leaves before the end.
+Automa::Mossa Automa::SuDomanda() { return Clicca("cmdRisposta", 2); }
 
 // Everything once, the special prize more often; at the first question he stays.
 Automa::Mossa Automa::SuPremiazione() {

@@ -24,6 +24,7 @@ class Automa : public Attore {
 
  private:
   using Mossa = std::optional<Gesto>;
+  std::int64_t TempoDiLettura(const platform::Form& form);
   Mossa Clicca(const std::string& nome, const std::string& testo = {});
   Mossa Clicca(const std::string& nome, int indice);
   Mossa Risponde();
@@ -45,8 +46,9 @@ class Automa : public Attore {
   const platform::Form* davanti_ = nullptr;
   int scena_ = 0;
   std::int64_t guardaFinoA_ = 0;
-  int iniziale_ = 0;      // what has been done on the start screen
-  int affermazioni_ = 0;  // cards answered
+  std::set<std::string> letti_;  // texts
+  int iniziale_ = 0;             // what has been done on the start screen
+  int affermazioni_ = 0;         // cards answered
   bool uscitaChiesta_ = false;
   std::size_t premi_ = 0;
 };

@@ -5,32 +5,16 @@
 #include <set>
 
 #include "core/mod_Girovia.h"
-#include "dimostrazione/automa.h"
-#include "dimostrazione/caso_guidato.h"
+#include "dimostrazione/partita_da_sola.h"
 #include "platform/hosts/headless/headless_host.h"
 
 namespace girovia {
 namespace {
 
-// A game with its players, over any host.
-struct Partita {
-  Partita(platform::Host& host, const std::string& cartella, bool manoVisibile)
-      : mano(host, manoVisibile),
-        gioco(mano, {.cartella = cartella, .caso = &caso}),
-        automa(gioco) {
-    caso.Segui(gioco.screen());
-    mano.Guida(automa);
-  }
-  Mano mano;
-  CasoGuidato caso;
-  Gioco gioco;
-  Automa automa;
-};
-
 // Takes a picture of each form once it has been in front for a moment.
 class Fotografo {
  public:
-  Fotografo(platform::HeadlessHost& host, Partita& partita, std::string galleria)
+  Fotografo(platform::HeadlessHost& host, PartitaDaSola& partita, std::string galleria)
       : host_(host), partita_(partita), galleria_(std::move(galleria)) {
     host_.OnIdle = [this] {
       Guarda(kSguardo);
@@ -58,7 +42,7 @@ class Fotografo {
   static constexpr std::int64_t kSguardo = 1'500'000;
 
   platform::HeadlessHost& host_;
-  Partita& partita_;
+  PartitaDaSola& partita_;
   std::string galleria_;
   std::set<std::string> fatte_;
   int scena_ = -1;
@@ -76,7 +60,7 @@ int Dimostrazione(const std::string& cartella, const std::string& galleria) {
     return 1;
   }
   platform::HeadlessHost host({1600, 1200});
-  Partita partita(host, cartella, false);
+  PartitaDaSola partita(host, cartella, false);
   Fotografo fotografo(host, partita, galleria);
   const int codice = partita.gioco.Gioca();
   using namespace mod_Girovia;
@@ -89,7 +73,7 @@ int Dimostrazione(const std::string& cartella, const std::string& galleria) {
 
 FineDimostrazione Dimostra(platform::Host& host, const std::string& cartella) {
   for (;;) {
-    Partita partita(host, cartella, true);
+    PartitaDaSola partita(host, cartella, true);
     const int codice = partita.gioco.Gioca();
     if (partita.mano.toccata()) return FineDimostrazione::Toccata;
     if (partita.mano.chiusa()) return FineDimostrazione::Chiusa;

@@ -174,7 +174,6 @@ void Mano::Show(const Surface& plane, const std::vector<DeviceRect>& changed) {
     veduta_ = plane;
     coperto_ = {};
   } else {
-    if (!coperto_.empty()) mutato.push_back(coperto_);
     Cancella();
     for (const DeviceRect& r : changed)
       for (int y = r.top; y < r.bottom; ++y)

@@ -120,8 +120,12 @@ class SdlHost : public Host {
 
   bool WaitEvent(Event& event, std::int64_t deadline) override {
     // Not before the first picture: SDL waits a tenth of a second for a window manager to agree.
-    if (shown_ && std::exchange(growsFull_, false))
+    if (shown_ && std::exchange(growsFull_, false)) {
       SDL_SetWindowFullscreen(window_, SDL_WINDOW_FULLSCREEN_DESKTOP);
+      lost_ = true;
+      event.kind = EventKind::Expose;
+      return true;
+    }
     for (;;) {
       if (voice_.idleAt() <= NowMicros()) voice_.Rest();
       const std::int64_t until = std::min(deadline, voice_.idleAt());
@@ -164,6 +168,9 @@ class SdlHost : public Host {
     if (!target || target->format->BytesPerPixel != 4) return;
     const PixelSize from{plane.deviceWidth(), plane.deviceHeight()};
     const PixelSize window{target->w, target->h};
+    // SDL makes a new surface whenever the window has grown, or only says so: then nothing of the
+    // old picture is on it.
+    const bool lost = std::exchange(lost_, false) || target != std::exchange(target_, target);
     if (!reducer_ || from != reducedPlane_ || window != reducedWindow_) {
       reducer_ = std::make_unique<Reducer>(from.width, from.height, window.width, window.height);
       reducedPlane_ = from;
@@ -171,7 +178,8 @@ class SdlHost : public Host {
     }
     if (SDL_MUSTLOCK(target) && SDL_LockSurface(target) != 0) return;
     std::vector<SDL_Rect> rects;
-    for (const DeviceRect& r : changed) {
+    const std::vector<DeviceRect> all{{0, 0, from.width, from.height}};
+    for (const DeviceRect& r : lost ? all : changed) {
       const DeviceRect t = reducer_->TargetOf(r);
       if (t.empty()) continue;
       reducer_->Run(plane.row(0), plane.deviceWidth(), static_cast<std::uint32_t*>(target->pixels),
@@ -258,7 +266,8 @@ class SdlHost : public Host {
       case SDL_WINDOWEVENT:
         switch (sdl.window.event) {
           case SDL_WINDOWEVENT_SIZE_CHANGED:
-            event.kind = EventKind::Resize;
+            lost_ = true;
+            event.kind = WindowSize() == reducedWindow_ ? EventKind::Expose : EventKind::Resize;
             return true;
           case SDL_WINDOWEVENT_EXPOSED:
             event.kind = EventKind::Expose;
@@ -362,6 +371,8 @@ class SdlHost : public Host {
   PixelSize reducedPlane_, reducedWindow_;
   std::map<std::pair<int, const Picture*>, Cursor> cursors_;
   SdlVoice voice_;
+  SDL_Surface* target_ = nullptr;  // as last shown on; only to be compared
+  bool lost_ = false;              // what was on it may be
   bool shown_ = false;
   bool growsFull_;  // once it has shown something
   std::shared_ptr<const Wave> firstSound_;

@@ -32,189 +32,129 @@ struct Panel : Form {
   TextBox box;
 };
 
-TEST(Keys, TabGoesRoundWhateverCanBeUsed) {
+class Keys : public testing::Test {
+ protected:
+  // Plays the keys and looks at what was heard of them.
+  void Heard(const std::string& keys, const Log& expected) {
+    p.Step([this, keys] { p.Keys(keys); },
+           [this, keys, expected] {
+             EXPECT_EQ(p.log, expected) << keys;
+             p.log.clear();
+           });
+  }
   Program p;
+};
+
+TEST_F(Keys, TabGoesRoundWhateverCanBeUsed) {
   Panel panel(p.screen, p.log);
   panel.Show();
-  const auto tab = [&](bool back) { return [&p, back] { p.host.Press(Key::Tab, back); }; };
-  const auto heard = [&](Log expected) {
-    return [&p, expected] {
-      EXPECT_EQ(p.log, expected);
-      p.log.clear();
-      p.Nudge();
-    };
-  };
-  p.script = {
-      tab(false), heard({"+a"}), tab(false), heard({"-a", "+o0"}), tab(true), heard({"-o0", "+a"}),
-      // The group is one stop once one of it is chosen.
-      [&] {
-        panel.option[1].SetValue(true);
-        p.Nudge();
-      },
-      tab(false), heard({"-a", "+o1"}), tab(false), heard({"-o1", "+box"}), tab(false), tab(false),
-      heard({"-box", "+last", "-last", "+a"}), tab(true), heard({"-a", "+last"}),
-      // Away with the one that has the focus: on from the start.
-      [&] {
-        panel.last.SetVisible(false);
-        p.Nudge();
-      },
-      tab(false), heard({"-last", "+a"})};
+  Heard("Tab", {"+a"});
+  Heard("Tab", {"-a", "+o0"});
+  Heard("shift+Tab", {"-o0", "+a"});
+  p.Step([&] { panel.option[1].SetValue(true); });  // a group with a choice is one stop
+  Heard("Tab", {"-a", "+o1"});
+  Heard("Tab", {"-o1", "+box"});
+  Heard("Tab Tab", {"-box", "+last", "-last", "+a"});
+  Heard("shift+Tab", {"-a", "+last"});
+  p.Step([&] { panel.last.SetVisible(false); });  // with the focus: on from the start
+  Heard("Tab", {"-last", "+a"});
   p.Run();
 }
 
-TEST(Keys, SpaceAndEnterPressAndArrowsChoose) {
-  Program p;
+TEST_F(Keys, SpaceAndEnterPressAndArrowsChoose) {
   Panel panel(p.screen, p.log);
   panel.Show();
-  const auto press = [&](Key key) { return [&p, key] { p.host.Press(key); }; };
-  p.script = {press(Key::Enter),  // nobody has the focus
-              [&] { p.ClickOn(panel, 30, 30); },
-              press(Key::Space),
-              press(Key::Enter),
-              [&] {
-                panel.disabled.SetFocus();
-                p.Nudge();
-              },
-              press(Key::Space),
-              [&] {
-                panel.option[1].SetFocus();
-                p.log.clear();
-                p.Nudge();
-              },
-              press(Key::Right),  // over the disabled one
-              press(Key::Down),   // round
-              press(Key::Left),
-              [&] {
-                EXPECT_EQ(p.log, (Log{"-o1", "+o3", "o3 click", "-o3", "+o0", "o0 click", "-o0",
-                                      "+o3", "o3 click"}));
-                EXPECT_TRUE(panel.option[3].value());
-                EXPECT_FALSE(panel.option[0].value());
-                // A form over it has the keys now, and gives them back.
-                auto over = std::make_unique<PlainForm>(p.screen, "over", 100, 100, p.log);
-                over->button.SetFocus();
-                over->onClick = [raw = over.get()] { raw->Unload(); };
-                over->Show();
-                p.screen.Own(std::move(over));
-                p.log.clear();
-                p.Nudge();
-              },
-              press(Key::Space),
-              press(Key::Space)};
+  Heard("Space Enter", {});  // nobody has the focus
+  p.Step([&] { p.ClickOn(panel, 30, 30); }, [&] { p.log.clear(); });
+  Heard("Space Enter", {"a click", "a click"});
+  p.Step([&] { panel.disabled.SetFocus(); }, [&] { p.log.clear(); });
+  Heard("Space", {});
+  p.Step([&] { panel.option[1].SetFocus(); }, [&] { p.log.clear(); });
+  Heard("Right", {"-o1", "+o3", "o3 click"});  // over the disabled one
+  Heard("Down", {"-o3", "+o0", "o0 click"});   // round
+  Heard("Left", {"-o0", "+o3", "o3 click"});
+  p.Step([&] {
+    EXPECT_TRUE(panel.option[3].value());
+    EXPECT_FALSE(panel.option[0].value());
+    // A form over it has the keys now, and gives them back.
+    auto over = std::make_unique<PlainForm>(p.screen, "over", 100, 100, p.log);
+    over->button.SetFocus();
+    over->onClick = [raw = over.get()] { raw->Unload(); };
+    over->Show();
+    p.screen.Own(std::move(over));
+    p.log.clear();
+  });
+  Heard("Space", {"over activate", "over click", "over unload"});
+  Heard("Space", {"o3 click"});
   p.Run();
-  EXPECT_EQ(p.log, (Log{"over activate", "over click", "over unload", "o3 click"}));
 }
 
-TEST(Keys, OfAWaitAreThrownAway) {
-  Program p;
+TEST_F(Keys, OfAWaitAreThrownAway) {
   PlainForm board(p.screen, "board", 800, 600, p.log);
-  int clicks = 0;
   board.onClick = [&] {
-    ++clicks;
-    bool impatient = true;
     p.host.OnBlocked = [&] {
-      if (impatient) p.host.Press(Key::Space);
-      impatient = false;
+      p.Keys("Space");
+      p.host.OnBlocked = nullptr;
     };
     p.screen.Wait(100);
-    p.host.OnBlocked = nullptr;
   };
   board.Show();
   board.button.SetFocus();
-  p.script = {[&] { p.host.Press(Key::Space); }};
+  Heard("Space", {"board load", "board activate", "board click"});
   p.Run();
-  EXPECT_EQ(clicks, 1);
 }
 
-TEST(Keys, TheFocusIsMarkedFromAKeyToTheMouse) {
-  Program p;
+TEST_F(Keys, TheFocusIsMarkedFromAKeyToTheMouse) {
   Panel panel(p.screen, p.log);
   panel.Show();
   panel.last.SetFocus();
-  const Rect at = panel.PlaneRect();
   const auto marked = [&](const Control& c) {
-    const Rect r = c.InForm(c.place());
+    const Rect at = panel.PlaneRect(), r = c.InForm(c.place());
     std::set<Color> seen;
     for (int x = 8; x < 16; ++x)
       seen.insert(p.host.planeShown().PixelAt(at.left + r.left + x, at.top + r.top + 3));
     return seen == std::set<Color>{colors::kBlack, colors::kWhite};
   };
-  p.script = {[&] {
-                EXPECT_FALSE(marked(panel.last));
-                p.Nudge();
-              },
-              [&] { p.host.Press(Key::Tab); },
-              [&] {
-                EXPECT_TRUE(marked(panel.a));
-                p.host.Press(Key::Tab, true);
-              },
-              [&] {
-                EXPECT_TRUE(marked(panel.last));
-                EXPECT_FALSE(marked(panel.a));
-                p.MoveTo(panel, 300, 200);
-              },
-              [&] {
-                EXPECT_FALSE(marked(panel.last));
-                p.Nudge();
-              }};
+  p.Step([] {}, [&] { EXPECT_FALSE(marked(panel.last)); });
+  p.Step([&] { p.Keys("Tab"); }, [&] { EXPECT_TRUE(marked(panel.a)); });
+  p.Step([&] { p.Keys("shift+Tab"); },
+         [&] { EXPECT_TRUE(marked(panel.last) && !marked(panel.a)); });
+  p.Step([&] { p.MoveTo(panel, 300, 200); }, [&] { EXPECT_FALSE(marked(panel.last)); });
   p.Run();
 }
 
-TEST(Keys, EscapeClicksTheWayOutWhereAClickWould) {
-  Program p;
+TEST_F(Keys, EscapeClicksTheWayOutWhereAClickWould) {
   PlainForm board(p.screen, "board", 800, 600, p.log);
   board.SetCancel(board.button);
   PlainForm small(p.screen, "small", 100, 100, p.log), large(p.screen, "large", 800, 600, p.log);
   board.Show();
-  const auto escape = [&] { p.host.Press(Key::Escape); };
-  const auto clicks = [&](int expected) {
-    return [&p, expected] {
-      EXPECT_EQ(std::count(p.log.begin(), p.log.end(), "board click"), expected);
-      p.Nudge();
-    };
+  const auto when = [&](std::function<void()> so, const Log& heard) {
+    p.Step(std::move(so), [&] { p.log.clear(); });
+    Heard("Escape", heard);
   };
-  p.script = {escape,
-              clicks(1),
-              [&] {
-                board.button.SetVisible(false);
-                p.Nudge();
-              },
-              escape,
-              clicks(1),
-              [&] {
-                board.button.SetVisible(true);
-                small.Show();  // beside it
-                p.Nudge();
-              },
-              escape,
-              clicks(2),
-              [&] {
-                large.Show();
-                p.Nudge();
-              },  // over it
-              escape,
-              clicks(2),
-              [&] {
-                large.Hide();
-                small.Hide();
-                board.onClick = [&] { small.ShowModal(); };
-                small.onClick = [&] { small.Hide(); };
-                p.Nudge();
-              },
-              escape,
-              clicks(3),
-              escape,  // under a modal form
-              clicks(3),
-              [&] { p.ClickOn(small, 30, 30); },
-              [&] {
-                board.onClick = nullptr;
-                p.Nudge();
-              },
-              escape,
-              clicks(4)};
+  when([] {}, {"board click"});
+  when([&] { board.button.SetVisible(false); }, {});
+  when(
+      [&] {
+        board.button.SetVisible(true);
+        small.Show();  // beside it
+      },
+      {"board click"});
+  when([&] { large.Show(); }, {});  // over it
+  when(
+      [&] {
+        large.Hide();
+        small.Hide();
+        board.onClick = [&] { small.ShowModal(); };
+        small.onClick = [&] { small.Hide(); };
+      },
+      {"board click", "small activate"});
+  when([] {}, {});  // under a modal form
+  when([&] { p.ClickOn(small, 30, 30); }, {"board click", "small activate"});
   p.Run();
 }
 
-TEST(Keys, HandlersMayTakeAwayWhatIsFocused) {
+TEST_F(Keys, HandlersMayTakeAwayWhatIsFocused) {
   struct Extra : Form {
     explicit Extra(Screen& s) : Form(s, "extra", 100, 100, 0) {
       Row(stays, "stays", {0, 0, 40, 40});
@@ -226,67 +166,47 @@ TEST(Keys, HandlersMayTakeAwayWhatIsFocused) {
     CommandButton stays;
     std::unique_ptr<CommandButton> goes = std::make_unique<CommandButton>();
   };
-  for (const char* how : {"key", "move", "press"}) {
-    Program p;
-    Extra extra(p.screen);
+  for (const EventKind how : {EventKind::KeyDown, EventKind::MouseMove, EventKind::MouseDown}) {
+    Program own;
+    Extra extra(own.screen);
     extra.Show();
     extra.stays.SetFocus();
-    p.script = {[&] {
-                  if (how[0] == 'k') p.host.Press(Key::Tab);
-                  if (how[0] == 'm') p.MoveTo(extra, 70, 20);
-                  const Point at = p.screen.ToWindow({420, 270});
-                  if (how[0] == 'p')
-                    p.host.Queue({EventKind::MouseDown, int(at.x), int(at.y), MouseButton::Left});
-                },
-                [&] {
-                  EXPECT_FALSE(extra.goes) << how;
-                  EXPECT_EQ(extra.focus(), nullptr);
-                  p.host.Press(Key::Space);
-                }};
-    p.Run();
+    own.Step([&] { own.host.Queue({.kind = how, .x = 420, .y = 270, .key = Key::Tab}); },
+             [&] {
+               EXPECT_FALSE(extra.goes) << int(how);
+               EXPECT_EQ(extra.focus(), nullptr);
+               own.Keys("Space");
+             });
+    own.Run();
   }
 }
 
-TEST(Keys, AHandlerMaySendTheFocusElsewhere) {
-  Program p;
+TEST_F(Keys, AHandlerMaySendTheFocusElsewhere) {
   Panel panel(p.screen, p.log);
   panel.Show();
   panel.a.SetFocus();
   panel.a.OnLostFocus = [&] { panel.last.SetFocus(); };
-  p.log.clear();
-  p.script = {[&] { p.ClickOn(panel, 30, 213); }};  // the text box
+  p.Step([&] {
+    p.log.clear();
+    p.ClickOn(panel, 30, 213);  // the text box
+  });
+  Heard("Space", {"-box", "+last", "box click", "last click"});
   p.Run();
-  EXPECT_TRUE(panel.last.focused());
-  EXPECT_EQ(p.log, (Log{"-box", "+last", "box click"}));
 }
 
-TEST(Keys, AnswerTheSystemsBox) {
-  Program p;
+TEST_F(Keys, AnswerTheSystemsBox) {
+  using enum MsgResult;
   PlainForm board(p.screen, "board", 800, 600, p.log);
   std::vector<MsgResult> results;
   MsgButtons buttons = MsgButtons::YesNo;
   board.onClick = [&] { results.push_back(MsgBox(p.screen, "GIROVIA", "Esci?", buttons)); };
   board.Show();
   board.button.SetFocus();
-  const auto press = [&](Key key) { return [&p, key] { p.host.Press(key); }; };
-  const auto open = press(Key::Space);
-  p.script = {open,
-              press(Key::Enter),
-              open,
-              press(Key::Escape),
-              open,
-              press(Key::Tab),
-              press(Key::Space),
-              [&] {
-                buttons = MsgButtons::Ok;
-                p.Nudge();
-              },
-              open,
-              press(Key::Enter),
-              open,
-              press(Key::Escape)};
+  for (const char* keys : {"Space Enter", "Space Escape", "Space Tab Space"})
+    p.Step([&p = p, keys] { p.Keys(keys); });
+  p.Step([&] { buttons = MsgButtons::Ok; });
+  for (const char* keys : {"Space Enter", "Space Escape"}) p.Step([&p = p, keys] { p.Keys(keys); });
   p.Run();
-  using enum MsgResult;
   EXPECT_EQ(results, (std::vector<MsgResult>{Yes, No, No, Ok, Ok}));
 }
 

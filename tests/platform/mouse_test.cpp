@@ -24,68 +24,40 @@ TEST(Mouse, ADraggedFormStaysUnderThePointer) {
     const double fit = p.screen.windowPixelsPerLogical();
     const int x = window.width / 2, y = window.height / 2;
     const double left = form.PlaneRect().left;
-    p.script = {[&] { p.host.Queue(Down(x, y)); }};
-    for (int i = 1; i <= 78; ++i) p.script.push_back([&, i] { p.host.Queue(Move(x + i, y)); });
-    p.script.push_back([&] {
-      EXPECT_NEAR((form.PlaneRect().left - left) * fit, 78, 1) << window.width;
-      p.host.Queue(Move(x + 5000, y));  // far out, and back
-    });
-    p.script.push_back([&] {
-      EXPECT_LT((form.PlaneRect().left) * fit, window.width);
-      p.host.Queue(Move(x, y));
-    });
-    p.script.push_back([&] {
-      EXPECT_EQ(form.PlaneRect().left, left);
-      p.Nudge();
-    });
+    const auto moved = [&] { return (form.PlaneRect().left - left) * fit; };
+    p.Step([&] { p.host.Queue(Down(x, y)); });
+    for (int i = 1; i <= 78; ++i) p.Step([&, i] { p.host.Queue(Move(x + i, y)); });
+    p.Step([] {}, [&] { EXPECT_NEAR(moved(), 78, 1) << window.width; });
+    p.Step([&] { p.host.Queue(Move(x + 5000, y)); },
+           [&] { EXPECT_LT(form.PlaneRect().left * fit, window.width); });
+    p.Step([&] { p.host.Queue(Move(x, y)); }, [&] { EXPECT_EQ(moved(), 0) << window.width; });
     p.Run();
   }
 }
 
 TEST(Mouse, ThePointerFollowsWhatComesUnderIt) {
+  using enum Pointer::Kind;
   Program p;
   PlainForm board(p.screen, "board", 800, 600, p.log), dice(p.screen, "dice", 800, 600, p.log);
-  dice.SetPointer({.kind = Pointer::Kind::Hourglass, .picture = nullptr});
-  board.button.SetPointer({.kind = Pointer::Kind::SizeAll, .picture = nullptr});
-  Pointer::Kind during = Pointer::Kind::Arrow;
+  dice.SetPointer({.kind = Hourglass, .picture = nullptr});
+  board.button.SetPointer({.kind = SizeAll, .picture = nullptr});
   dice.onActivate = [&] {
     p.screen.Wait(100);
-    during = p.host.pointer().kind;
+    EXPECT_EQ(p.host.pointer().kind, Hourglass) << "while they roll";
     dice.Hide();
   };
   board.Show();
-  using enum Pointer::Kind;
-  const auto shows = [&](Pointer::Kind kind, const char* what) {
-    return [&p, kind, what] {
-      EXPECT_EQ(p.host.pointer().kind, kind) << what;
-      p.Nudge();
-    };
+  const auto shows = [&](Pointer::Kind kind, std::function<void()> after) {
+    p.Step(std::move(after), [&p, kind] { EXPECT_EQ(p.host.pointer().kind, kind); });
   };
-  p.script = {[&] { p.host.Queue(Move(300, 300)); },
-              [&] {
-                dice.Show();
-                p.Nudge();
-              },
-              shows(Arrow, "the dice have gone"),
-              [&] {
-                EXPECT_EQ(during, Hourglass) << "while they rolled";
-                board.button.Move({280, 280, 40, 40});
-                p.Nudge();
-              },
-              shows(SizeAll, "a button has come"),
-              [&] {
-                board.button.SetEnabled(false);
-                p.Nudge();
-              },
-              shows(Arrow, "no button"),
-              [&] {
-                board.button.SetEnabled(true);
-                MsgBox(p.screen, "GIROVIA", "Sì?", MsgButtons::Ok);
-                p.Nudge();
-              },
-              shows(Arrow, "a box over it"),
-              [&] { p.host.Press(Key::Enter); },
-              shows(SizeAll, "the box has gone")};
+  p.Step([&] { p.host.Queue(Move(300, 300)); });
+  shows(Arrow, [&] { dice.Show(); });
+  shows(SizeAll, [&] { board.button.Move({280, 280, 40, 40}); });
+  shows(Arrow, [&] { board.button.SetEnabled(false); });
+  shows(SizeAll, [&] { board.button.SetEnabled(true); });
+  board.onClick = [&] { MsgBox(p.screen, "GIROVIA", "Sì?", MsgButtons::Ok); };
+  shows(Arrow, [&] { p.ClickOn(board, 300, 300); });
+  shows(SizeAll, [&] { p.Keys("Enter"); });
   p.Run();
 }
 
@@ -102,20 +74,19 @@ TEST(Mouse, OfMotionsThatWaitOnlyTheLastCounts) {
     Log& log;
   } form(p.screen, p.log);
   form.Show();
-  p.host.OnBlocked = [&] {
-    if (p.host.NowMicros() == 0)  // in the wait of the first press
-      for (int x : {30, 31}) p.host.Queue(Move(x, 5));
+  p.host.OnBlocked = [&] {  // in the wait of the press
+    for (int x : {30, 31}) p.host.Queue(Move(x, 5));
     p.host.OnBlocked = nullptr;
   };
-  p.script = {[&] {
-                for (int x : {1, 2, 3}) p.host.Queue(Move(x, 5));
-                p.host.Queue(Down(3, 5));
-              },
-              [&] {
-                for (int x : {4, 5}) p.host.Queue(Move(x, 5));
-                p.host.Queue({.kind = EventKind::MouseLeave});
-                for (int x : {6, 7}) p.host.Queue(Move(x, 5));
-              }};
+  p.Step([&] {
+    for (int x : {1, 2, 3}) p.host.Queue(Move(x, 5));
+    p.host.Queue(Down(3, 5));
+  });
+  p.Step([&] {
+    for (int x : {4, 5}) p.host.Queue(Move(x, 5));
+    p.Nudge();
+    for (int x : {6, 7}) p.host.Queue(Move(x, 5));
+  });
   p.Run();
   EXPECT_EQ(p.log, (Log{"move3", "down3", "move5", "move7"}));
 }
@@ -164,74 +135,44 @@ TEST(Mouse, ConfinementBelongsToItsForm) {
   const auto confine = [&] {
     box->Show();
     p.screen.ClipCursor(*box, {100, 50, 200, 100});
-    p.Nudge();
   };
-  // In window pixels, the last ones included.
+  const auto held = [&] { return p.host.pointerArea(); };
+  // In window pixels, the last ones included, for a form that stands there.
   const auto area = [&](double fit, double left, double top) {
     return DeviceRect{int(std::floor((left + 100) * fit)), int(std::floor((top + 50) * fit)),
                       int(std::ceil((left + 300) * fit)) + 1,
                       int(std::ceil((top + 150) * fit)) + 1};
   };
   board.Show();
-  p.script = {
-      confine,
+  p.Step(confine, [&] { EXPECT_EQ(held(), area(1.28, 200, 150)); });
+  p.Step([&] { p.host.Queue(Move(1, 767)); },  // the host did not hold it back
+         [&] {
+           EXPECT_EQ(box->at.x, 100);
+           EXPECT_EQ(box->at.y, 150);
+         });
+  p.Step([&] { box->MoveOnPlane(20, 40); }, [&] { EXPECT_EQ(held(), area(1.28, 10, 20)); });
+  p.Step([&] { p.host.Resize({800, 600}); }, [&] { EXPECT_EQ(held(), area(1, 10, 20)); });
+  p.Step(
       [&] {
-        EXPECT_EQ(p.host.pointerArea(), area(1.28, 200, 150));
-        p.host.Queue(Move(1, 767));  // the host did not hold it back
-      },
-      [&] {
-        EXPECT_EQ(box->at.x, 100);
-        EXPECT_EQ(box->at.y, 150);
-        box->MoveOnPlane(20, 40);
-        p.Nudge();
-      },
-      [&] {
-        EXPECT_EQ(p.host.pointerArea(), area(1.28, 10, 20));
-        p.host.Resize({800, 600});
-      },
-      [&] {
-        EXPECT_EQ(p.host.pointerArea(), area(1, 10, 20));
-        // In a wait too.
-        p.host.OnBlocked = [&, once = false]() mutable {
-          if (!once) p.host.Queue(Move(790, 590));
-          once = true;
-        };
         p.screen.Wait(50);
-        p.host.OnBlocked = nullptr;
-        EXPECT_EQ(p.host.pointerArea(), area(1, 10, 20));
+        EXPECT_EQ(held(), area(1, 10, 20));
         p.host.Queue(Move(790, 590));
-        p.host.Queue(Down(790, 590));
       },
-      [&] {
-        EXPECT_EQ(box->at.x, 300);
-        MsgBox(p.screen, "GIROVIA", "Chi mi raggiunge?", MsgButtons::Ok);
-        p.Nudge();
-      },
-      [&] {
-        EXPECT_FALSE(p.host.pointerArea());
-        p.host.Press(Key::Enter);
-      },
-      [&] {
-        EXPECT_TRUE(p.host.pointerArea());
-        box->Hide();
-        EXPECT_FALSE(p.host.pointerArea());
-        p.Nudge();
-      },
-      confine,
-      [&] {
-        EXPECT_TRUE(p.host.pointerArea());
-        box->Unload();
-        EXPECT_FALSE(p.host.pointerArea());
-        p.Nudge();
-      },
-      confine,
-      [&] {
-        EXPECT_TRUE(p.host.pointerArea());
-        box.reset();
-        EXPECT_FALSE(p.host.pointerArea());
-        p.Nudge();
-      },
-  };
+      [&] { EXPECT_EQ(box->at.x, 300); });
+  p.Step([&] {
+    p.Step([] {}, [&] { EXPECT_FALSE(held()) << "a box over it can be reached"; });
+    p.Step([&] { p.Keys("Enter"); }, [&] { EXPECT_TRUE(held()); });
+    const std::function<void()> ends[] = {[&] { box->Hide(); }, [&] { box->Unload(); },
+                                          [&] { box.reset(); }};
+    for (const auto& end : ends) {
+      p.Step(confine, [&] { EXPECT_TRUE(held()); });
+      p.Step([&, end] {
+        end();
+        EXPECT_FALSE(held());
+      });
+    }
+    MsgBox(p.screen, "GIROVIA", "Chi mi raggiunge?", MsgButtons::Ok);
+  });
   p.Run();
 }
 
@@ -243,16 +184,13 @@ TEST(Mouse, ACapturedMouseLeavesNothingElseToClick) {
   Label tile;
   tile.Attach(board, "tile", {300, 300, 40, 40}, nullptr);
   board.Show();
-  p.script = {[&] {
-                p.screen.SetCapture(&tile);
-                p.host.Press(Key::Escape);
-                p.host.Press(Key::Space);
-              },
-              [&] {
-                EXPECT_EQ(p.log.back(), "board activate");
-                tile.SetVisible(false);
-                p.host.Press(Key::Escape);
-              }};
+  p.Step(
+      [&] {
+        p.screen.SetCapture(&tile);
+        p.Keys("Escape Space");
+      },
+      [&] { EXPECT_EQ(p.log.back(), "board activate"); });
+  p.Step([&] { tile.SetVisible(false); }, [&] { p.Keys("Escape"); });
   p.Run();
   EXPECT_EQ(p.log.back(), "board click");
 }

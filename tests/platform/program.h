@@ -5,8 +5,10 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <memory>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -56,7 +58,8 @@ struct Program {
     std::size_t step = 0;
     host.OnIdle = [this, &step] {
       if (step < script.size()) {
-        script[step++]();
+        const auto now = std::move(script[step++]);  // it may add others
+        now();
       } else {
         host.Queue({.kind = EventKind::Quit});
       }
@@ -66,6 +69,45 @@ struct Program {
     host.OnIdle = nullptr;
   }
   void Nudge() { host.Queue({.kind = EventKind::MouseLeave}); }
+  // A step that does something, and one that looks at what came of it.
+  void Step(std::function<void()> act, std::function<void()> look = {}) {
+    for (auto& half : {std::move(act), std::move(look)})
+      if (half)
+        script.push_back([this, half] {
+          half();
+          Nudge();
+        });
+  }
+  // Names of keys, with shift+ or ctrl+ before them, or texts in quotes, _ for a blank.
+  void Keys(const std::string& keys) {
+    static const std::map<std::string, Key> kNames = {{"Tab", Key::Tab},
+                                                      {"Enter", Key::Enter},
+                                                      {"Escape", Key::Escape},
+                                                      {"Space", Key::Space},
+                                                      {"Back", Key::Backspace},
+                                                      {"Delete", Key::Delete},
+                                                      {"Left", Key::Left},
+                                                      {"Right", Key::Right},
+                                                      {"Down", Key::Down},
+                                                      {"Home", Key::Home},
+                                                      {"End", Key::End},
+                                                      {"A", Key::A},
+                                                      {"C", Key::C},
+                                                      {"V", Key::V},
+                                                      {"X", Key::X}};
+    std::istringstream words(keys);
+    for (std::string word; words >> word;) {
+      if (word[0] == '\'') {
+        std::replace(word.begin(), word.end(), '_', ' ');
+        host.Type(word.substr(1, word.size() - 2));
+        continue;
+      }
+      const auto plus = word.rfind('+');
+      const std::string with = plus == std::string::npos ? "" : word.substr(0, plus);
+      host.Press(kNames.at(word.substr(plus + 1)), with.find("shift") != std::string::npos,
+                 with.find("ctrl") != std::string::npos);
+    }
+  }
   void ClickOn(const Form& form, double x, double y, MouseButton button = MouseButton::Left) {
     const Rect r = form.PlaneRect();
     host.Click(screen.ToWindow({r.left + x, r.top + y}), button);

@@ -155,7 +155,7 @@ TEST(Forms, AClickCountsOnlyWhereItBeganAndOnlyLeft) {
   const auto event = [&](EventKind kind, int x, int y, MouseButton b = MouseButton::Left) {
     p.host.Queue({kind, x, y, b});
   };
-  p.script = {[&] {
+  p.Step([&] {
     event(EventKind::MouseDown, 20, 20);
     event(EventKind::MouseUp, 200, 200);  // dragged off
     event(EventKind::MouseDown, 200, 200);
@@ -163,10 +163,14 @@ TEST(Forms, AClickCountsOnlyWhereItBeganAndOnlyLeft) {
     event(EventKind::MouseDown, 20, 20, MouseButton::Right);
     event(EventKind::MouseUp, 20, 20, MouseButton::Right);
     event(EventKind::MouseDown, 20, 20);
-    board.button.SetVisible(false);  // gone under the pressed mouse
+  });
+  p.Step([&] {
+    EXPECT_TRUE(board.button.pressed());
+    board.button.SetVisible(false);  // gone under the pressed mouse, and back
+    board.button.SetVisible(true);
     EXPECT_FALSE(board.button.pressed());
     event(EventKind::MouseUp, 20, 20);
-  }};
+  });
   p.Run();
   EXPECT_EQ(p.log, (Log{"board load", "board activate"}));
 }

@@ -119,7 +119,7 @@ class Label : public Control {
   double maxWidth_ = 0;
   double wrapWidth_ = 0;  // of one that wraps and sizes itself
   double minWidth_ = 0;
-  double anchor_ = 0;     // x of the edge or middle that stays when the label sizes itself
+  double anchor_ = 0;  // x of the edge or middle that stays when the label sizes itself
 };
 
 // A drawing surface of its own that may hold other controls.

@@ -68,8 +68,8 @@ class Screen {
 
   // --- Mouse
   void Drag(Form& form);
-  // From now on every movement, press and click goes to this control, wherever the pointer is, until
-  // another is told or null, or the control is no longer seen.
+  // From now on every movement, press and click goes to this control, wherever the pointer is,
+  // until another is told or null, or the control is no longer seen.
   void SetCapture(Control* control);
   // Keeps the pointer in a rectangle of the form, wherever that goes, as long as the form is shown;
   // while another form takes the input the pointer is free.
@@ -127,8 +127,8 @@ class Screen {
   void MousePressed(Point at, MouseButton button);
   void MouseReleased(Point at, MouseButton button);
   Form* FormAt(Point at) const;
-  // To whom the mouse belongs whatever it points at; null: to nobody. A box over the form of the one
-  // who has captured it comes first.
+  // To whom the mouse belongs whatever it points at; null: to nobody. A box over the form of the
+  // one who has captured it comes first.
   Control* Captured() const;
   Control* Holder() const { return Captured() ? captured_ : pressed_; }
   Point InForm(const Form& form, Point at) const;

@@ -1,6 +1,7 @@
 #include "cartella.h"
 
 #include <stdlib.h>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <stdexcept>
@@ -36,6 +37,11 @@ void Cartella::Togli(const std::string& file) {
 void Cartella::Riscrivi(const std::string& file, const std::string& contenuto) {
   Togli(file);
   std::ofstream(radice_ / file, std::ios::binary) << contenuto;
+}
+
+void Cartella::Tubo(const std::string& file) {
+  Togli(file);
+  if (mkfifo((radice_ / file).c_str(), 0600) != 0) throw std::runtime_error("no pipe at " + file);
 }
 
 void Cartella::Alleggerisci() {

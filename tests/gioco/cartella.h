@@ -17,6 +17,7 @@ class Cartella {
   // `file` is relative to the folder; a folder is taken away with all that lies in it.
   void Togli(const std::string& file);
   void Riscrivi(const std::string& file, const std::string& contenuto);
+  void Tubo(const std::string& file);  // a pipe that nobody writes to
 
   // Small pictures in the place of the photographs, the trials' maps, the dice and the turning
   // card, which take most of the time of a game that has no clock to wait for.

@@ -45,7 +45,7 @@ TEST(Risorse, APictureThatCannotBeHadEndsTheGameWithAMessage) {
   const std::string carta = inizio + "tira 1 5 5; esito 7; affermazione 0\n";
   const struct {
     const char* file;
-    const char* contenuto;  // none: the file is missing
+    const char* contenuto;  // none: the file is missing; a bar: a pipe that nobody writes to
     int errore;
     const char* testo;
     std::string copione;
@@ -57,12 +57,15 @@ TEST(Risorse, APictureThatCannotBeHadEndsTheGameWithAMessage) {
       {"risorse/bitmap/204.png", "", EILSEQ, "Il file non contiene un'immagine valida.", turno},
       {"risorse/custom/410.jpg", "\xFF\xD8\xFF", EILSEQ, "Il file non contiene un'immagine valida.",
        carta},
+      {"risorse/bitmap/124.png", "|", EILSEQ, "Il file non contiene un'immagine valida.", ""},
       {"risorse/custom", nullptr, ENOENT, "Impossibile trovare il file specificato.", carta},
   };
   for (const auto& caso : casi) {
     SCOPED_TRACE(caso.file);
     Cartella cartella;
-    if (caso.contenuto) {
+    if (caso.contenuto && *caso.contenuto == '|') {
+      cartella.Tubo(caso.file);
+    } else if (caso.contenuto) {
       cartella.Riscrivi(caso.file, caso.contenuto);
     } else {
       cartella.Togli(caso.file);
@@ -83,6 +86,8 @@ TEST(Risorse, WithoutSoundsTheGameGoesOn) {
   Cartella cartella;
   cartella.Togli("Suoni/112.wav");
   cartella.Riscrivi("Suoni/123.wav", "RIFF");
+  cartella.Tubo("Suoni/124.wav");
+  cartella.Tubo("font/DejaVuSans.ttf");
   const std::string copione =
       "ritratti 124 130; tira 1 5 5; esito 7; affermazione 0; clic cmdRisposta(2)\n";
   EXPECT_THAT(Registra(copione, cartella.percorso()), HasSubstr("fine, codice 0"));

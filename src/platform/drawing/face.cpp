@@ -4,13 +4,13 @@
 #include <cctype>
 #include <cstdint>
 #include <cstring>
-#include <fstream>
 #include <iterator>
 #include <optional>
 #include <string_view>
 
 #include "platform/drawing/font.h"
 #include "platform/drawing/glyphs.h"
+#include "platform/drawing/input_file.h"
 
 namespace platform {
 namespace {
@@ -83,14 +83,11 @@ const Face* Own(int number) {
 }  // namespace
 
 std::unique_ptr<Face> Face::Read(const std::string& path) {
-  std::ifstream file(path, std::ios::binary | std::ios::ate);
-  const std::streamoff size = file ? static_cast<std::streamoff>(file.tellg()) : 0;
-  constexpr std::streamoff kLargest = 64 << 20;
-  if (size <= 0 || size > kLargest) return nullptr;
+  std::string bytes;
+  const InputFile file = OpenInput(path);
+  if (!file || !ReadAll(file.get(), bytes)) return nullptr;
   auto face = std::make_unique<Face>();
-  face->bytes_.resize(static_cast<std::size_t>(size));
-  file.seekg(0);
-  if (!file.read(reinterpret_cast<char*>(face->bytes_.data()), size)) return nullptr;
+  face->bytes_.assign(bytes.begin(), bytes.end());
   if (!IsWhole(face->bytes_) || !stbtt_InitFont(&face->info_, face->bytes_.data(), 0))
     return nullptr;
   face->unit_ = stbtt_ScaleForMappingEmToPixels(&face->info_, 1);
@@ -143,7 +140,7 @@ std::string MissingFonts() {
   for (int i = 0; i < kFaces; ++i) {
     const std::optional<std::unique_ptr<Face>>& read = TheShelf().faces[i];
     // Asking must not cost the reading of faces that may never be used.
-    if (read ? *read != nullptr : std::ifstream(PathOf(i)).good()) continue;
+    if (read ? *read != nullptr : OpenInput(PathOf(i)) != nullptr) continue;
     if (!missing.empty()) missing += ", ";
     missing += PathOf(i);
   }

@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "platform/drawing/bitmap_file.h"
+#include "platform/drawing/input_file.h"
 #include "platform/drawing/jpeg_file.h"
 #include "platform/drawing/pixel.h"
 #include "platform/drawing/resample.h"
@@ -18,9 +19,11 @@ namespace platform {
 namespace {
 
 constexpr int kLargestSide = 8192;
+// Twice the largest picture of the program. A damaged header must not cost seconds of decoding and
+// hundreds of megabytes.
+constexpr std::int64_t kMostPixels = std::int64_t(1) << 24;
 
 struct Closer {
-  void operator()(std::FILE* f) const { std::fclose(f); }
   void operator()(stbi_uc* p) const { stbi_image_free(p); }
 };
 
@@ -30,27 +33,17 @@ bool IsWhole(std::string_view bytes) {
   return !bytes.starts_with("BM") || BitmapIsWhole(bytes);
 }
 
-bool ReadAll(std::FILE* file, std::string& bytes) {
-  constexpr std::size_t kLargestFile = std::size_t(512) << 20;
-  char block[1 << 16];
-  std::size_t got = 0;
-  while ((got = std::fread(block, 1, sizeof block, file)) > 0) {
-    bytes.append(block, got);
-    if (bytes.size() > kLargestFile) {
-      errno = EFBIG;
-      return false;
-    }
-  }
-  return std::ferror(file) == 0;
-}
-
 // Empty if the bytes are no picture.
 std::vector<std::uint32_t> Decode(std::string_view bytes, int& width, int& height) {
   if (!IsWhole(bytes)) return {};
   int channels = 0;
+  const auto* data = reinterpret_cast<const stbi_uc*>(bytes.data());
+  const int size = static_cast<int>(bytes.size());
+  if (stbi_info_from_memory(data, size, &width, &height, &channels) == 0 ||
+      std::int64_t(width) * height > kMostPixels)
+    return {};
   const std::unique_ptr<stbi_uc, Closer> rgba(
-      stbi_load_from_memory(reinterpret_cast<const stbi_uc*>(bytes.data()),
-                            static_cast<int>(bytes.size()), &width, &height, &channels, 4));
+      stbi_load_from_memory(data, size, &width, &height, &channels, 4));
   if (!rgba) return {};
   std::vector<std::uint32_t> argb(static_cast<std::size_t>(width) *
                                   static_cast<std::size_t>(height));
@@ -71,7 +64,7 @@ std::shared_ptr<const Picture> Picture::Load(const std::string& path, int& error
   };
   error = 0;
   errno = 0;
-  const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
+  const InputFile file = OpenInput(path);
   if (!file) return failed(errno);
   int width = 0;
   int height = 0;
@@ -79,7 +72,7 @@ std::shared_ptr<const Picture> Picture::Load(const std::string& path, int& error
   if (!ReadPlainBitmap(file.get(), kLargestSide, argb, width, height)) {
     std::rewind(file.get());
     std::string bytes;
-    if (!ReadAll(file.get(), bytes)) return failed(errno != 0 ? errno : EIO);
+    if (!ReadAll(file.get(), bytes)) return failed(errno);
     argb = Decode(bytes, width, height);
   }
   std::shared_ptr<const Picture> picture = FromPixels(width, height, std::move(argb));
@@ -90,6 +83,7 @@ std::shared_ptr<const Picture> Picture::Load(const std::string& path, int& error
 std::shared_ptr<const Picture> Picture::FromPixels(int width, int height,
                                                    std::vector<std::uint32_t> argb) {
   if (width <= 0 || height <= 0 || width > kLargestSide || height > kLargestSide ||
+      std::int64_t(width) * height > kMostPixels ||
       argb.size() != static_cast<std::size_t>(width) * static_cast<std::size_t>(height))
     return nullptr;
   auto picture = std::make_shared<Picture>();

@@ -14,7 +14,8 @@ namespace platform {
 // but any size is accepted.
 class Picture {
  public:
-  // Null if the file is missing, unreadable, broken or larger than 8192 pixels on a side; `error`
+  // Null if the file is missing, unreadable, broken larger than 8192 pixels on a side or than 16
+  // megapixels; `error`
   // then holds the operating system's code (errno, ENOENT for a missing file; EILSEQ for a file
   // that is no picture) and is 0 otherwise.
   static std::shared_ptr<const Picture> Load(const std::string& path, int& error);

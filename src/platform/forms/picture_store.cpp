@@ -17,6 +17,15 @@ std::string SystemMessage(int code) {
       return "Accesso al file negato.";
     case EISDIR:
       return "Al posto del file c'è una cartella.";
+    case ENOTDIR:
+      return "Impossibile trovare il percorso specificato.";
+    case ELOOP:
+      return "Al posto del file c'è un collegamento che torna su se stesso.";
+    case EFBIG:
+      return "Il file è troppo grande.";
+    case EMFILE:
+    case ENFILE:
+      return "Troppi file aperti.";
     case EILSEQ:
       return "Il file non contiene un'immagine valida.";
     case ENOMEM:

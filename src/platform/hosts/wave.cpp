@@ -1,22 +1,13 @@
 #include "platform/hosts/wave.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
+#include <span>
+
+#include "platform/drawing/input_file.h"
 
 namespace platform {
 namespace {
-
-std::vector<unsigned char> ReadAll(const std::string& path) {
-  std::vector<unsigned char> bytes;
-  std::FILE* file = std::fopen(path.c_str(), "rb");
-  if (!file) return bytes;
-  unsigned char block[65536];
-  for (std::size_t n; (n = std::fread(block, 1, sizeof block, file)) > 0;)
-    bytes.insert(bytes.end(), block, block + n);
-  std::fclose(file);
-  return bytes;
-}
 
 std::uint32_t Little(const unsigned char* p, int bytes) {
   std::uint32_t value = 0;
@@ -27,7 +18,10 @@ std::uint32_t Little(const unsigned char* p, int bytes) {
 }  // namespace
 
 std::shared_ptr<const Wave> LoadWave(const std::string& path) {
-  const auto bytes = ReadAll(path);
+  std::string read;
+  const InputFile file = OpenInput(path);
+  if (!file || !ReadAll(file.get(), read)) return nullptr;
+  const std::span bytes(reinterpret_cast<const unsigned char*>(read.data()), read.size());
   if (bytes.size() < 12 || std::memcmp(bytes.data(), "RIFF", 4) != 0 ||
       std::memcmp(bytes.data() + 8, "WAVE", 4) != 0)
     return nullptr;

@@ -4,8 +4,6 @@
 
 namespace girovia {
 
-void CatturaSchermo(platform::Form& form) {
-  form.SetSurface(form.screen().CaptureUnder(form));
-}
+void CatturaSchermo(platform::Form& form) { form.SetSurface(form.screen().CaptureUnder(form)); }
 
 }  // namespace girovia

@@ -86,7 +86,7 @@ class Banco : public Caso {
   platform::HeadlessHost host;
   std::deque<double> numeri;  // the next draws; where there is none, 0
   Gioco gioco;
-  bool dallInizio = false;    // the steps begin on the start screen
+  bool dallInizio = false;  // the steps begin on the start screen
   int codice = -1;
 
  private:

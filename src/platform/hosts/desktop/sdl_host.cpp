@@ -14,6 +14,7 @@
 #include "platform/drawing/reduce.h"
 #include "platform/drawing/resample.h"
 #include "platform/hosts/desktop/sdl_voice.h"
+#include "platform/hosts/desktop/signals.h"
 
 namespace platform {
 namespace {
@@ -66,8 +67,8 @@ bool Repeats(Key key) { return key != Key::Enter && key != Key::Space && key != 
 
 class SdlHost : public Host {
  public:
-  SdlHost(SDL_Window* window, const DesktopOptions& options)
-      : window_(window), growsFull_(options.fullScreen) {
+  SdlHost(SDL_Window* window, std::unique_ptr<Signals> signals, const DesktopOptions& options)
+      : signals_(std::move(signals)), window_(window), growsFull_(options.fullScreen) {
     SDL_StopTextInput();
     int error = 0;
     if (const auto icon = Picture::Load(options.iconPath, error)) {
@@ -366,6 +367,7 @@ class SdlHost : public Host {
     SDL_Cursor* sdl = nullptr;
     double scale = 0;
   };
+  std::unique_ptr<Signals> signals_;  // the last to go
   SDL_Window* window_;
   std::unique_ptr<Reducer> reducer_;
   PixelSize reducedPlane_, reducedWindow_;
@@ -393,6 +395,8 @@ std::unique_ptr<Host> OpenDesktop(const DesktopOptions& options, std::string& wh
   if (!std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY"))
     SDL_SetHint(SDL_HINT_VIDEODRIVER, "KMSDRM");
 #endif
+  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+  auto signals = std::make_unique<Signals>();
   if (SDL_Init(SDL_INIT_VIDEO) != 0) {
     why = SDL_GetError();
     SDL_Quit();
@@ -418,7 +422,7 @@ std::unique_ptr<Host> OpenDesktop(const DesktopOptions& options, std::string& wh
     return nullptr;
   }
   SDL_SetWindowMinimumSize(window, 400, 300);
-  return std::make_unique<SdlHost>(window, options);
+  return std::make_unique<SdlHost>(window, std::move(signals), options);
 }
 
 }  // namespace platform

@@ -1,7 +1,9 @@
 #include "platform/hosts/desktop/sdl_host.h"
 
 #include <SDL.h>
+#include <fcntl.h>
 #include <time.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -83,10 +85,13 @@ class SdlHost : public Host {
   }
 
   ~SdlHost() override {
-    voice_.Close();
+    const bool silent = voice_.Close();
     for (auto& [key, cursor] : cursors_) SDL_FreeCursor(cursor.sdl);
     SDL_DestroyWindow(window_);
-    SDL_Quit();
+    if (silent)
+      SDL_Quit();
+    else
+      SDL_QuitSubSystem(SDL_INIT_VIDEO);
   }
 
   PixelSize WindowSize() override {
@@ -128,14 +133,12 @@ class SdlHost : public Host {
       return true;
     }
     for (;;) {
-      if (voice_.idleAt() <= NowMicros()) voice_.Rest();
-      const std::int64_t until = std::min(deadline, voice_.idleAt());
       SDL_Event sdl;
       int got = 0;
-      if (until == kForever) {
+      if (deadline == kForever) {
         got = SDL_WaitEvent(&sdl);
       } else {
-        const std::int64_t left = until - NowMicros();
+        const std::int64_t left = deadline - NowMicros();
         // Under a millisecond SDL cannot sleep exactly: the clock does it, and events can wait.
         if (left <= 0) {
           got = SDL_PollEvent(&sdl);
@@ -227,7 +230,7 @@ class SdlHost : public Host {
   void PlaySound(const std::shared_ptr<const Wave>& wave) override {
     // Opening the sound system takes as long as the window does: the first picture goes first.
     if (shown_)
-      voice_.Play(wave, NowMicros());
+      voice_.Play(wave);
     else
       firstSound_ = wave;
   }
@@ -395,6 +398,10 @@ std::unique_ptr<Host> OpenDesktop(const DesktopOptions& options, std::string& wh
   if (!std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY"))
     SDL_SetHint(SDL_HINT_VIDEODRIVER, "KMSDRM");
 #endif
+  // Started with its outputs closed, the program would write its messages to the display server.
+  int file = 0;
+  while (file >= 0 && file <= 2) file = open("/dev/null", O_RDWR);
+  if (file > 2) close(file);
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   auto signals = std::make_unique<Signals>();
   if (SDL_Init(SDL_INIT_VIDEO) != 0) {

@@ -3,46 +3,35 @@
 // sound system that looks out for other devices.
 #pragma once
 
-#include <SDL.h>
-
 #include <cstdint>
 #include <memory>
-#include <thread>
 
 #include "platform/hosts/wave.h"
 
 namespace platform {
 
+// The device is opened, closed and waited for by a thread of its own: a sound system may take its
+// time over that, or never answer, and the game must not notice.
 class SdlVoice {
  public:
-  SdlVoice() = default;
+  SdlVoice();
   SdlVoice(const SdlVoice&) = delete;
   SdlVoice& operator=(const SdlVoice&) = delete;
   ~SdlVoice() { Close(); }
 
   // Cuts off what plays and starts the wave; null is silence. Where there is no device nothing
   // happens, and it is not asked for again.
-  void Play(const std::shared_ptr<const Wave>& wave, std::int64_t nowMicros);
-  // When Rest is to be called; INT64_MAX if never.
-  std::int64_t idleAt() const { return idleAtMicros_; }
-  // Closes the device and the whole sound system. It takes a tenth of a second, for which nobody
-  // waits but the next sound.
-  void Rest();
-  void Close();  // likewise, and waits for it
+  void Play(const std::shared_ptr<const Wave>& wave);
+  // Closes the device and the whole sound system for good. False if it does not answer: then SDL
+  // must be left as it is.
+  bool Close();
 
  private:
-  static void Fill(void* self, Uint8* stream, int bytes);
-  bool Open(int rate, int channels);
+  struct Shared;
+  static void Run(const std::shared_ptr<Shared>& shared);
+  static void Fill(void* shared, unsigned char* stream, int bytes);
 
-  SDL_AudioDeviceID device_ = 0;
-  std::thread closing_;
-  bool absent_ = false;
-  int rate_ = 0;
-  int channels_ = 0;
-  std::int64_t idleAtMicros_ = INT64_MAX;
-  // Shared with the audio thread, under SDL_LockAudioDevice.
-  std::shared_ptr<const Wave> wave_;
-  std::size_t at_ = 0;
+  std::shared_ptr<Shared> shared_;  // outlives the voice if the thread is held up
 };
 
 }  // namespace platform

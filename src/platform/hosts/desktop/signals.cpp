@@ -32,13 +32,14 @@ Signals::Signals() {
   fcntl(pipe_[1], F_SETFL, O_NONBLOCK);  // a flood of signals must not hold the program up either
   theWritingEnd = pipe_[1];
   watcher_ = std::thread([this] { Watch(); });
-  for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+  for (const int number : {SIGTERM, SIGINT, SIGHUP, SIGPIPE}) {
     Before before{number, {}};
     sigaction(number, nullptr, &before.action);
     // Started so that it outlives its terminal, say.
     if (before.action.sa_handler == SIG_IGN) continue;
     struct sigaction action {};
-    action.sa_handler = Tell;
+    // Whoever read what the program writes, a sound device say, may have gone.
+    action.sa_handler = number == SIGPIPE ? SIG_IGN : Tell;
     action.sa_flags = SA_RESTART;
     sigaction(number, &action, nullptr);
     before_.push_back(before);

@@ -1,6 +1,8 @@
 #include "dimostrazione/dimostrazione.h"
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <set>
 
@@ -25,6 +27,7 @@ class Fotografo {
     host_.OnBlocked = [this] { Guarda(kSguardo / 2); };
   }
   int foto() const { return int(fatte_.size()); }
+  int errore() const { return errore_; }  // why the last that failed could not be written, or 0
 
  private:
   void Guarda(std::int64_t quanto) {
@@ -35,7 +38,7 @@ class Fotografo {
     const platform::Form* form = partita_.gioco.screen().top();
     if (!form || host_.NowMicros() - daQuando_ < quanto || !fatte_.insert(form->name()).second)
       return;
-    platform::SavePng(host_.Shot(), galleria_ + "/" + form->name() + ".png");
+    if (!platform::SavePng(host_.Shot(), galleria_ + "/" + form->name() + ".png")) errore_ = errno;
   }
 
   static constexpr std::int64_t kDurataMassima = 3LL * 3600 * 1'000'000;
@@ -45,6 +48,7 @@ class Fotografo {
   PartitaDaSola& partita_;
   std::string galleria_;
   std::set<std::string> fatte_;
+  int errore_ = 0;
   int scena_ = -1;
   std::int64_t daQuando_ = 0;
 };
@@ -63,6 +67,11 @@ int Dimostrazione(const std::string& cartella, const std::string& galleria) {
   PartitaDaSola partita(host, cartella, false);
   Fotografo fotografo(host, partita, galleria);
   const int codice = partita.gioco.Gioca();
+  if (fotografo.errore() != 0) {
+    std::fprintf(stderr, "Non posso scrivere nella cartella %s: %s\n", galleria.c_str(),
+                 std::strerror(fotografo.errore()));
+    return 1;
+  }
   using namespace mod_Girovia;
   std::printf("Partita finita: %s %s, %s %s. Le %d schermate incontrate sono in %s\n",
               Nome[1].c_str(), TestoEuro(Gruzzolo[1]).c_str(), Nome[2].c_str(),

@@ -127,6 +127,7 @@ TEST(Picture, ComesBackFromItsFile) {
   s.Line(0, 0, 8, 6, {3, colors::kYellow});
   ASSERT_TRUE(SavePng(s, Path("saved.png")));
   EXPECT_FALSE(SavePng(s, Path("no/such/folder.png")));
+  EXPECT_FALSE(SavePng(s, "/dev/full"));
   const auto picture = Load(Path("saved.png"));
   ASSERT_TRUE(picture);
   const Surface back = picture->Fit(9, 7, 2);

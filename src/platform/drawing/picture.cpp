@@ -164,8 +164,17 @@ bool SavePng(const Surface& surface, const std::string& path) {
       for (const int shift : {16, 8, 0})
         rgb.push_back(static_cast<std::uint8_t>(row[x] >> shift & 0xFF));
   }
-  return !rgb.empty() && stbi_write_png(path.c_str(), surface.deviceWidth(), surface.deviceHeight(),
-                                        3, rgb.data(), 0) != 0;
+  if (rgb.empty()) return false;
+  // The library's own writer does not notice a full disk.
+  errno = 0;
+  const InputFile file(std::fopen(path.c_str(), "wb"));
+  const auto write = [](void* to, void* data, int size) {
+    std::fwrite(data, 1, static_cast<std::size_t>(size), static_cast<std::FILE*>(to));
+  };
+  return file &&
+         stbi_write_png_to_func(write, file.get(), surface.deviceWidth(), surface.deviceHeight(), 3,
+                                rgb.data(), 0) != 0 &&
+         std::fflush(file.get()) == 0 && std::ferror(file.get()) == 0;
 }
 
 }  // namespace platform

@@ -50,7 +50,7 @@ class Picture {
   mutable int drawnHeight_ = 0;
 };
 
-// Saves device pixels as PNG. False if the file cannot be written.
+// Saves device pixels as PNG. False, with the reason in errno, if the file cannot be written.
 bool SavePng(const Surface& surface, const std::string& path);
 
 }  // namespace platform

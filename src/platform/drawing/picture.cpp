@@ -30,7 +30,9 @@ struct Closer {
 // The decoders fill up with anything what a cut file lacks, so its end is looked for beforehand.
 bool IsWhole(std::string_view bytes) {
   if (bytes.starts_with("\xFF\xD8")) return JpegIsWhole(bytes);
-  return !bytes.starts_with("BM") || BitmapIsWhole(bytes);
+  if (bytes.starts_with("BM")) return BitmapIsWhole(bytes);
+  // Nothing else: the decoder would look further for the beginning of a JPEG file.
+  return bytes.starts_with("\x89PNG");
 }
 
 // Empty if the bytes are no picture.

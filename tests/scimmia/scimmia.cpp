@@ -76,7 +76,14 @@ void Scimmia::FineTurno(bool finita) {
     torna = torna || std::all_of(ipotesi.conti.violazioni.begin(), ipotesi.conti.violazioni.end(),
                                  [](std::int64_t n) { return n == 0; });
   }
-  Pretendi(torna, "no telling of the turn leads to these purses and squares");
+  std::string violate;
+  for (const Ipotesi& ipotesi : turno_) {
+    violate += " /";
+    for (std::size_t r = 0; r < simulazione::kRegole; ++r)
+      if (ipotesi.conti.violazioni[r] > 0)
+        violate += std::string(" ") + simulazione::kNomiRegole[r] + ",";
+  }
+  Pretendi(torna, "the turn comes out right in no telling, as far as it has one:" + violate);
   turno_.clear();
 }
 

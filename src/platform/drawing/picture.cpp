@@ -27,12 +27,29 @@ struct Closer {
   void operator()(stbi_uc* p) const { stbi_image_free(p); }
 };
 
+// Each chunk is its length, its name, its data, and a sum. The decoder makes room for what a length
+// promises before it reads on.
+bool PngIsWhole(std::string_view bytes) {
+  constexpr std::string_view kSignature = "\x89PNG\r\n\x1A\n";
+  constexpr std::size_t kAround = 12;
+  if (!bytes.starts_with(kSignature)) return false;
+  bytes.remove_prefix(kSignature.size());
+  while (bytes.size() >= kAround) {
+    if (bytes.substr(4, 4) == "IEND") return true;
+    std::size_t length = 0;
+    for (int i = 0; i < 4; ++i) length = length << 8 | static_cast<unsigned char>(bytes[i]);
+    if (length > bytes.size() - kAround) return false;
+    bytes.remove_prefix(length + kAround);
+  }
+  return false;
+}
+
 // The decoders fill up with anything what a cut file lacks, so its end is looked for beforehand.
 bool IsWhole(std::string_view bytes) {
   if (bytes.starts_with("\xFF\xD8")) return JpegIsWhole(bytes);
   if (bytes.starts_with("BM")) return BitmapIsWhole(bytes);
   // Nothing else: the decoder would look further for the beginning of a JPEG file.
-  return bytes.starts_with("\x89PNG");
+  return PngIsWhole(bytes);
 }
 
 // Empty if the bytes are no picture.

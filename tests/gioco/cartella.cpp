@@ -44,12 +44,12 @@ void Cartella::Tubo(const std::string& file) {
   if (mkfifo((radice_ / file).c_str(), 0600) != 0) throw std::runtime_error("no pipe at " + file);
 }
 
-void Cartella::Alleggerisci() {
+void Cartella::Alleggerisci(std::string_view tranne) {
   const fs::path stella = fs::path(PROGRAMMA) / PercorsoFile(*TrovaVoce(Tipo::Bitmap, 104));
   for (const VoceCatalogo& voce : Catalogo()) {
     const bool grande = voce.tipo == Tipo::Jpeg || voce.nome.starts_with("FormRotazioneCarta") ||
                         voce.nome.starts_with("FormProva") || voce.nome.starts_with("Dadi.");
-    if (!grande) continue;
+    if (!grande || (!tranne.empty() && voce.nome.starts_with(tranne))) continue;
     Togli(PercorsoFile(voce));
     fs::create_symlink(stella, radice_ / PercorsoFile(voce));
   }

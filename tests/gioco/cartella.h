@@ -21,7 +21,7 @@ class Cartella {
 
   // Small pictures in the place of the photographs, the trials' maps, the dice and the turning
   // card, which take most of the time of a game that has no clock to wait for.
-  void Alleggerisci();
+  void Alleggerisci(std::string_view tranne = {});
 
  private:
   std::filesystem::path radice_;

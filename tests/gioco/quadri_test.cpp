@@ -278,7 +278,7 @@ const Quadro kQuadri[] = {
        banco.Clicca(banco.Trova("cmdRitratto(1)"));
        Poi(banco, [](Banco& b) { b.Clicca(b.Trova("cmdRisposta")); });
      },
-     2},
+     2, kNelSuono},
     {"nomi-di-citta", 2,
      [](Banco& banco) {
        servizi().comandi->NascondiAiuto();

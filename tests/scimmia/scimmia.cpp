@@ -23,6 +23,10 @@ Scimmia::Scimmia(const Opzioni& opzioni)
     prima(form);
     Davanti(form);
   };
+  // Heard when the newspaper has been paid for, and before it pays in its turn.
+  gioco_.screen().OnSound = [this](const std::string& suono) {
+    if (suono == "120") Ovunque([](auto& c, int) { c.PrimaDellaCarta(); });
+  };
   host_.OnIdle = [this] { Inattiva(); };
   host_.OnBlocked = [this] {
     if (A(60) == 0) Tocca();
@@ -47,19 +51,14 @@ void Scimmia::Inattiva() {
 // --- What must be so
 
 void Scimmia::Davanti(const platform::Form& form) {
-  const auto tutte = [this](auto fai) {
-    for (int i = 0; i < int(turno_.size()); ++i) fai(turno_[std::size_t(i)].controllore, i % 2);
-  };
   if (form.name() == "Dadi") {
     for (int p : {1, 2}) Pretendi(Gruzzolo[p] == gruzzoli_[std::size_t(p)], "a purse changed");
     turno_ = std::vector<Ipotesi>(kIpotesi);
-    tutte([](auto& c, int) { c.InizioTurno(); });
+    Ovunque([](auto& c, int) { c.InizioTurno(); });
   } else if (form.name() == "FormBanconote") {
-    tutte([](auto& c, int) { c.Dadi(); });
+    Ovunque([](auto& c, int) { c.Dadi(); });
   } else if (form.name() == "FormSovrapposizioni") {
-    tutte([](auto& c, int paga) { c.Sovrapposizione(paga != 0); });
-  } else if (form.name() == "FormImprevisti") {
-    tutte([](auto& c, int) { c.PrimaDellaCarta(); });
+    Ovunque([](auto& c, int paga) { c.Sovrapposizione(paga != 0); });
   } else if (form.name() == "FormPremiazione" && !cerimonia_) {
     cerimonia_ = true;
     FineTurno(true);

@@ -53,6 +53,10 @@ class Scimmia : private Caso {
   void Controlla();
   void Davanti(const platform::Form& form);
   void FineTurno(bool finita);
+  template <class Fai>
+  void Ovunque(Fai fai) {
+    for (int i = 0; i < int(turno_.size()); ++i) fai(turno_[std::size_t(i)].controllore, i % 2);
+  }
   void Pretendi(bool vero, const std::string& cosa) {
     if (!vero && guasto_.empty()) guasto_ = cosa;
   }

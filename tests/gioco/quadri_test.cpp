@@ -282,7 +282,9 @@ const Quadro kQuadri[] = {
     {"nomi-di-citta", 2,
      [](Banco& banco) {
        servizi().comandi->NascondiAiuto();
-       for (const char* citta : {"cmdcitta(80)", "cmdcitta(34)"}) banco.Sopra(banco.Trova(citta));
+       banco.Sopra(banco.Trova("cmdcitta(80)"));
+       // Two movements at once would be merged.
+       Poi(banco, [](Banco& b) { b.Sopra(b.Trova("cmdcitta(34)")); });
      },
      4},
     {"finestra-larga",

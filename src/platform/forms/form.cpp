@@ -19,6 +19,8 @@ Form::~Form() {
   screen_.Forget(this);
   surface_ = {};
   scratch_ = {};
+  picture_ = {};
+  mask_.reset();
   ReturnPages();
 }
 

@@ -51,7 +51,6 @@ void FormCarta::RitagliaForm(const Rect& nero) {
 }
 
 void FormCarta::Form_Activate() {
-  if (Timer1.enabled()) return;  // something lay over the card for a moment: the prize falls on
   premio_.Riparti();
   RitornoProva = Falso;
   Timer1.SetEnabled(true);

@@ -20,6 +20,7 @@ class Carte : public testing::Test {
 
   void Gioca(Schermata carta, std::deque<Banco::Momento> momenti) {
     servizi().comandi->SpegniTimer();
+    servizi().comandi->NascondiUscita();  // as the turning card leaves the board
     mod_Girovia::Giocatore = 1;
     mod_Messaggi::IndiceCarte4 = kPorto;
     mod_Messaggi::Risposta = -1;
@@ -174,14 +175,16 @@ TEST_F(Carte, TheCardTurnsOverTheBoard) {
   int quadri = 0;
   banco.Passi({[&] {
     servizi().comandi->SpegniTimer();
+    servizi().comandi->NascondiUscita();
     banco.gioco.screen().Flush();
     const auto campioni = [&] {
       std::vector<platform::Color> colori;
-      for (const platform::Point p : {platform::Point{20, 20}, {400, 20}, {100, 550}, {400, 590}})
+      for (const platform::Point p : {platform::Point{20, 20}, {760, 30}, {100, 550}, {400, 590}})
         colori.push_back(banco.host.planeShown().PixelAt(p.x, p.y));
       return colori;
     };
     const auto tabellone = campioni();
+    servizi().comandi->MostraUscita();
     banco.host.OnShow = [&](const auto&) {
       ++quadri;
       EXPECT_EQ(campioni(), tabellone) << quadri;

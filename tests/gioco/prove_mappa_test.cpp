@@ -152,6 +152,13 @@ TEST_P(ProveMappa, OnlyTheCapitalsNameTheCityUnderThePointer) {
   momenti.push_back({0, [&] {
                        EXPECT_EQ(banco.Trova("cmdcitta(13)").place().left, capitali ? 288 : 296);
                        EXPECT_FALSE(banco.Trova("cmdcitta(36)").visible());
+                       // The rim of Nizza is red, that of its neighbour blue.
+                       for (const int i : {13, 14}) {
+                         const Rect r = banco.Trova("cmdcitta(" + std::to_string(i) + ")").place();
+                         const platform::Color rim =
+                             banco.host.planeShown().PixelAt(r.right() - 1, r.top + 7);
+                         EXPECT_EQ((rim & 0xFF) > (rim >> 16), i == 13) << i;
+                       }
                        EXPECT_EQ(banco.Trova("LblDomanda").text(),
                                  capitali ? "Secondo, clicca la capitale della Germania"
                                           : "Secondo, clicca la città di Berlino");
